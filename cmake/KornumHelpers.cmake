@@ -1,0 +1,28 @@
+# Public headers are reached as <kornum/NAME.h> both in the build tree and after
+# install. In the build tree each header is linked into build/include/kornum, so
+# the header stays beside its source and is edited there.
+set(KORNUM_BUILD_INCLUDE_DIR ${CMAKE_BINARY_DIR}/include)
+file(MAKE_DIRECTORY ${KORNUM_BUILD_INCLUDE_DIR}/kornum)
+
+function(kornum_public_headers)
+  foreach(header IN LISTS ARGN)
+    get_filename_component(absolute ${header} ABSOLUTE)
+    get_filename_component(name ${header} NAME)
+    file(CREATE_LINK ${absolute} ${KORNUM_BUILD_INCLUDE_DIR}/kornum/${name} SYMBOLIC COPY_ON_ERROR)
+    install(FILES ${absolute} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kornum)
+  endforeach()
+endfunction()
+
+# A shared library of the package: exported as kornum::<EXPORT_NAME>.
+function(kornum_library target export_name)
+  add_library(${target} SHARED)
+  add_library(kornum::${export_name} ALIAS ${target})
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${export_name}
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${KORNUM_BUILD_INCLUDE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+endfunction()

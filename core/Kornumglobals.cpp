@@ -1,0 +1,8 @@
+#include <kornum/Kornumglobals.h>
+
+namespace Kornumglobals {
+
+Float KorTolerance = KorDefaultTolerance;
+std::string KorNullStr;
+
+}  // namespace Kornumglobals

@@ -1,0 +1,99 @@
+// Special functions, elementary functions with the library's argument conventions,
+// and the tolerant float comparisons.
+#pragma once
+
+#include <kornum/Kornumglobals.h>
+
+#include <limits>
+
+namespace Kornummath {
+
+using Kornumglobals::Double;
+using Kornumglobals::Float;
+using Kornumglobals::Int64;
+using Kornumglobals::Integer;
+using Kornumglobals::Single;
+
+// ---- Special functions -------------------------------------------------------------
+
+// The gamma function. Poles (0 and the negative integers) give NaN or infinity.
+Float Gamma(Float X);
+// ln |Gamma(X)|; the library calls it for X > 0.
+Float LnGamma(Float X);
+// The complete beta function Gamma(A) Gamma(B) / Gamma(A + B), for A, B > 0.
+Float Beta(Float A, Float B);
+// The regularised incomplete beta function I_X(A, B), for X in [0, 1] and A, B > 0.
+Float IncompleteBeta(Float X, Float A, Float B);
+// The X in [0, 1] with I_X(A, B) = P, for P in [0, 1] and A, B > 0.
+Float InverseIncompleteBeta(Float P, Float A, Float B);
+
+// ---- Elementary functions ----------------------------------------------------------
+
+// X raised to the power Y. A negative X with an integral Y gives the real signed
+// power ((-2)^3 = -8); a negative X with a fractional Y gives NaN. XtoY(0, 0) = 1.
+Float XtoY(Float X, Float Y);
+// 2 raised to the power Y.
+Float TwoToY(Float Y);
+// Exact at the integral powers of ten up to 10^27.
+Float KorLog10(Float X);
+Float KorLog2(Float X);
+// The arc cosine in radians, for X in [-1, 1] (NaN outside).
+Float KorArcCos(Float X);
+// The magnitude of X with the sign of Y: -|X| when Y < 0, else |X| (so Y = -0 counts
+// as non-negative).
+Float SignXY(Float X, Float Y);
+
+Float MinXY(Float X, Float Y);
+Int64 MinXY(Int64 X, Int64 Y);
+Integer MinXY(Integer X, Integer Y);
+Float MaxXY(Float X, Float Y);
+Int64 MaxXY(Int64 X, Int64 Y);
+
+// ---- Tolerant comparisons ----------------------------------------------------------
+//
+// Zero test (absolute): X is zero when |X| <= KorTolerance.
+// Positive: X > 0 and not zero. Negative: X < 0 and not zero. So a value that is
+// zero is never positive or negative, and every value is exactly one of the three.
+//
+// Same value (mixed absolute and relative, at the precision of the operands):
+//   |X - Y| <= T * max(1, |X|, |Y|), computed in Float,
+// where T is KorTolerance for Float operands and, for the narrower types, the larger
+// of KorTolerance and that type's floor (DoubleToleranceFloor, SingleToleranceFloor),
+// so that two values that differ only by the rounding of their own width compare the
+// same. Near zero this is the zero test: SameFloat(X, 0.0L) == FloatIsZero(X).
+inline constexpr Float DoubleToleranceFloor = 1.0e-13L;
+inline constexpr Float SingleToleranceFloor = 1.0e-6L;
+
+// Inline: the vector and statistics routines call these once per element.
+namespace detail {
+inline bool WithinTolerance(Float X, Float Y, Float tolerance) noexcept {
+    if (X == Y) return true;  // also equal infinities
+    Float scale = X < 0 ? -X : X;
+    const Float absY = Y < 0 ? -Y : Y;
+    if (absY > scale) scale = absY;
+    if (scale > std::numeric_limits<Float>::max()) return false;  // unequal, one infinite
+    if (scale < 1) scale = 1;
+    const Float difference = X - Y;
+    return (difference < 0 ? -difference : difference) <= tolerance * scale;
+}
+inline Float AtLeast(Float floor) noexcept {
+    return Kornumglobals::KorTolerance > floor ? Kornumglobals::KorTolerance : floor;
+}
+}  // namespace detail
+
+inline bool SameFloat(Float X, Float Y) noexcept {
+    return detail::WithinTolerance(X, Y, Kornumglobals::KorTolerance);
+}
+inline bool SameFloat(Double X, Double Y) noexcept {
+    return detail::WithinTolerance(X, Y, detail::AtLeast(DoubleToleranceFloor));
+}
+inline bool SameFloat(Single X, Single Y) noexcept {
+    return detail::WithinTolerance(X, Y, detail::AtLeast(SingleToleranceFloor));
+}
+inline bool FloatIsZero(Float X) noexcept {
+    return (X < 0 ? -X : X) <= Kornumglobals::KorTolerance;
+}
+inline bool FloatIsPositive(Float X) noexcept { return X > 0 && !FloatIsZero(X); }
+inline bool FloatIsNegative(Float X) noexcept { return X < 0 && !FloatIsZero(X); }
+
+}  // namespace Kornummath

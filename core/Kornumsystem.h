@@ -1,0 +1,30 @@
+// Small utilities: exchanging two variables and clearing raw memory.
+#pragma once
+
+#include <kornum/Kornumglobals.h>
+
+#include <utility>
+
+namespace Kornumsystem {
+
+using namespace Kornumglobals;
+
+// Exchanges two variables; one overload per element type. Inline because the sorts
+// call them in their inner loops. The PackedFloat overload exchanges the stored
+// 10 bytes of two TKorFloatVector elements.
+inline void SwapXY(Byte& X, Byte& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(ShortInt& X, ShortInt& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(Word& X, Word& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(SmallInt& X, SmallInt& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(Cardinal& X, Cardinal& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(Integer& X, Integer& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(Int64& X, Int64& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(Single& X, Single& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(Double& X, Double& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(Float& X, Float& Y) noexcept { std::swap(X, Y); }
+inline void SwapXY(PackedFloat& X, PackedFloat& Y) noexcept { std::swap(X, Y); }
+
+// Sets Size bytes at P to zero.
+void KorClear(void* P, Cardinal Size);
+
+}  // namespace Kornumsystem

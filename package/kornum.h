@@ -1,0 +1,12 @@
+// Every module of the library.
+#pragma once
+
+#include <kornum/Platform.h>
+#include <kornum/Kornumglobals.h>
+#include <kornum/Kornum_RS_Math.h>
+#include <kornum/Kornummath.h>
+#include <kornum/Kornumsystem.h>
+#include <kornum/Kornumfinancials.h>
+#include <kornum/Kornumconvert.h>
+#include <kornum/Kornummsgs.h>
+#include <kornum/KornumPackage.h>

@@ -1,0 +1,18 @@
+// The slice of platform services that the library relies on: exceptions carrying a
+// message, replaceable message texts and the one way to raise a failure.
+#pragma once
+
+#include <kornum/PlatformExceptions.h>
+#include <kornum/PlatformResources.h>
+
+namespace Platform {
+
+// Raises a failure: looks up the text of the identifier in the table in force at this
+// moment and throws E (EMathError unless the routine is specified to raise another
+// class) with exactly that text.
+template <class E = EMathError>
+[[noreturn]] void Raise(const ResourceString& resource) {
+    throw E(resource.Text());
+}
+
+}  // namespace Platform

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Builds the library and its tests and runs every test.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/install-deps.sh
+build=${KORNUM_BUILD_DIR:-build}
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DKORNUM_BUILD_TESTS=ON "$@"
+cmake --build "$build"
+ctest --test-dir "$build" --output-on-failure -j 2

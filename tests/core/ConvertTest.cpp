@@ -1,0 +1,70 @@
+// Number to text and back.
+#include <kornum/Kornumconvert.h>
+#include <kornum/PlatformExceptions.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace Kornumconvert;
+
+namespace {
+
+TEST(Float2EStr, FixedNotationWithTheGivenDecimals) {
+    EXPECT_EQ(Float2EStr(2.5L, 3), "2.500");
+    EXPECT_EQ(Float2EStr(-2.5L, 0), "-2");   // ties to even
+    EXPECT_EQ(Float2EStr(3.5L, 0), "4");
+    EXPECT_EQ(Float2EStr(0.1L, 20), "0.10000000000000000000");  // correctly rounded
+    EXPECT_EQ(Float2EStr(1.0L / 3, 4), "0.3333");
+    EXPECT_EQ(Float2EStr(1e20L, 1), "100000000000000000000.0");
+    EXPECT_EQ(Float2EStr(std::numeric_limits<Float>::infinity(), 2), "INF");
+    EXPECT_EQ(Float2EStr(-std::numeric_limits<Float>::infinity(), 2), "-INF");
+    EXPECT_EQ(Float2EStr(std::nanl(""), 2), "NAN");
+    EXPECT_EQ(Float2EStr(std::numeric_limits<Float>::max(), 0).size(), 4933u);
+}
+
+TEST(Int2EStr, BothWidths) {
+    EXPECT_EQ(Int2EStr(Int64(-9223372036854775807LL - 1)), "-9223372036854775808");
+    EXPECT_EQ(Int2EStr(Integer(42)), "42");
+}
+
+TEST(Str2Float, AcceptsWhatAPersonTypes) {
+    EXPECT_EQ(Str2Float("  42 "), 42);
+    EXPECT_EQ(Str2Float("\t-1.5\n"), -1.5L);
+    EXPECT_EQ(Str2Float("+.5"), 0.5L);
+    EXPECT_EQ(Str2Float("1."), 1);
+    EXPECT_EQ(Str2Float("2.5E-3"), 2.5e-3L);
+    EXPECT_EQ(Str2Float("1e+4"), 1e4L);
+    EXPECT_EQ(Str2Float("0.1"), 0.1L);  // correctly rounded to the 64-bit significand
+    EXPECT_TRUE(std::isinf(Str2Float("-inf")));
+    EXPECT_TRUE(std::isnan(Str2Float("NaN")));
+}
+
+TEST(Str2Float, RoundTripsTheTwentyDecimalText) {
+    for (Float x : {1.0L / 3, 123456.789L, -2.0L / 7, 1e-9L}) {
+        EXPECT_NEAR(double((Str2Float(Float2EStr(x, 20)) - x) / x), 0, 1e-18);
+    }
+}
+
+TEST(Str2Float, RejectsGarbageNamingTheText) {
+    for (const char* bad : {"", "   ", "abc", "1,5", "1e", "1.2.3", "--1", "+-1", "- 1", "0x10",
+                            "12abc", "1 2", "e5", ".", "+"}) {
+        try {
+            Str2Float(bad);
+            ADD_FAILURE() << "accepted '" << bad << "'";
+        } catch (const Platform::EConvertError& error) {
+            EXPECT_EQ(error.Message(), "'" + std::string(bad) + "' is not a valid number");
+        }
+    }
+    EXPECT_THROW(Str2Float("1e99999"), Platform::EConvertError);
+}
+
+TEST(StripTChStr, RemovesOnlyTrailingOccurrences) {
+    EXPECT_EQ(StripTChStr("1.25000", '0'), "1.25");
+    EXPECT_EQ(StripTChStr("100.000", '0'), "100.");
+    EXPECT_EQ(StripTChStr("000", '0'), "");
+    EXPECT_EQ(StripTChStr("a0b", '0'), "a0b");
+}
+
+}  // namespace

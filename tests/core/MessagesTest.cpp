@@ -1,0 +1,97 @@
+// Failure convention: one raising helper, exact class and text, replaceable tables.
+#include <kornum/Kornum_RS_Math.h>
+#include <kornum/Kornummsgs.h>
+#include <kornum/Platform.h>
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+using namespace Kornum_RS_Math;
+
+namespace {
+
+class Messages : public ::testing::Test {
+protected:
+    void TearDown() override { Platform::RestoreDefaultResources(); }
+};
+
+TEST_F(Messages, FortyFiveIdentifiersWithUniqueIdsNamesAndTexts) {
+    std::set<int> ids;
+    std::set<std::string> names;
+    for (const Platform::ResourceString* message : AllMessages) {
+        ids.insert(message->Id);
+        names.insert(message->Name);
+        EXPECT_FALSE(std::string(message->DefaultText).empty()) << message->Name;
+        EXPECT_EQ(Platform::FindResource(message->Name), message);
+    }
+    EXPECT_EQ(std::size(AllMessages), 45u);
+    EXPECT_EQ(ids.size(), 45u);
+    EXPECT_EQ(names.size(), 45u);
+    EXPECT_TRUE(names.count("rsVectorIsEmpty") && names.count("rsNA"));
+    EXPECT_EQ(&Kornummsgs::rsNA, &rsNA);
+}
+
+TEST_F(Messages, RaiseThrowsTheMathErrorWithTheTextExactly) {
+    try {
+        Platform::Raise(rsVectorIsEmpty);
+        FAIL() << "nothing raised";
+    } catch (const Platform::EMathError& error) {
+        EXPECT_EQ(error.Message(), std::string("The vector is empty"));
+        EXPECT_STREQ(error.what(), "The vector is empty");
+    }
+}
+
+TEST_F(Messages, RaiseCanThrowTheRootClass) {
+    try {
+        Platform::Raise<Platform::Exception>(rsMedianNotFound);
+        FAIL() << "nothing raised";
+    } catch (const Platform::EMathError&) {
+        FAIL() << "raised the math-error class";
+    } catch (const Platform::Exception& error) {
+        EXPECT_EQ(error.Message(), rsMedianNotFound.Text());
+    }
+}
+
+TEST_F(Messages, ReplacedTextIsLookedUpAtTheMomentOfRaising) {
+    Platform::SetResourceText(rsVectorIsEmpty, "Der Vektor ist leer");
+    EXPECT_EQ(rsVectorIsEmpty.Text(), "Der Vektor ist leer");
+    try {
+        Platform::Raise(rsVectorIsEmpty);
+    } catch (const Platform::EMathError& error) {
+        EXPECT_EQ(error.Message(), "Der Vektor ist leer");
+    }
+    EXPECT_EQ(rsMatrixIsEmpty.Text(), "The matrix is empty");  // others untouched
+}
+
+TEST_F(Messages, AWholeTableReplacesEveryTextAndFallsBackToTheDefaults) {
+    Platform::SetResourceText(rsMagZero, "stale");
+    Platform::ReplaceResourceTable({{"rsVectorG1", "Mehr als ein Wert nötig"},
+                                    {"rsStdDev", "Standardabweichung muss positiv sein"}});
+    EXPECT_EQ(rsVectorG1.Text(), "Mehr als ein Wert nötig");
+    EXPECT_EQ(rsStdDev.Text(), "Standardabweichung muss positiv sein");
+    EXPECT_EQ(rsMagZero.Text(), rsMagZero.DefaultText);  // not in the table: default
+
+    // An unknown name rejects the whole table and leaves the one in force alone.
+    EXPECT_THROW(Platform::ReplaceResourceTable({{"rsVectorG1", "x"}, {"rsNoSuchThing", "y"}}),
+                 Platform::Exception);
+    EXPECT_EQ(rsVectorG1.Text(), "Mehr als ein Wert nötig");
+
+    Platform::RestoreDefaultResources();
+    EXPECT_EQ(rsVectorG1.Text(), rsVectorG1.DefaultText);
+}
+
+TEST(ErrorMsg, GoesThroughTheInstalledHandler) {
+    std::string shown;
+    auto previous = Kornummsgs::SetErrorMsgHandler([&](const std::string& text) { shown = text; });
+    Kornummsgs::ErrorMsg(rsNoInvert.Text());
+    EXPECT_EQ(shown, rsNoInvert.Text());
+    Kornummsgs::SetErrorMsgHandler(previous);
+
+    testing::internal::CaptureStderr();
+    Kornummsgs::ErrorMsg("to standard error");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "to standard error\n");
+}
+
+}  // namespace
