@@ -1,0 +1,4 @@
+// Statistics of samples and frequency tables, and distribution functions. The module
+// is split by topic; this header brings in every topic.
+#pragma once
+
