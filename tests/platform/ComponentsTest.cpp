@@ -1,0 +1,187 @@
+// String lists, component ownership and the text form of components.
+#include <kornum/PlatformStreaming.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace Platform;
+
+namespace {
+
+TEST(StringList, BehavesAsAnOrderedListOfLines) {
+    TStringList list;
+    EXPECT_EQ(list.Add("a"), 0);
+    EXPECT_EQ(list.Add("b"), 1);
+    list.Insert(1, "x");
+    list.Insert(3, "z");  // at the end
+    EXPECT_EQ(list.Text(), "a\nx\nb\nz\n");
+    list.Delete(0);
+    list.Put(0, "y");
+    EXPECT_EQ(list.Count(), 3);
+    EXPECT_EQ(list[0], "y");
+    EXPECT_EQ(list.IndexOf("z"), 2);
+    EXPECT_EQ(list.IndexOf("a"), -1);
+    EXPECT_THROW(list[3], EStringListError);
+    EXPECT_THROW(list.Delete(-1), EStringListError);
+    EXPECT_THROW(list.Insert(5, "q"), EStringListError);
+
+    list.SetText("one\r\ntwo\rthree\nfour\n");
+    EXPECT_EQ(list.Count(), 4);
+    EXPECT_EQ(list[2], "three");
+
+    TStringList copy{"old"};
+    copy.Assign(list);
+    EXPECT_EQ(copy.Text(), list.Text());
+    list.Clear();
+    EXPECT_EQ(copy.Count(), 4);  // a copy, not a view
+}
+
+TEST(StringList, RefusesToTakeAnUnrelatedObject) {
+    TStringList list;
+    TComponent component(nullptr);
+    try {
+        list.Assign(component);
+        FAIL() << "assigned";
+    } catch (const EConvertError& error) {
+        EXPECT_EQ(error.Message(), "Cannot assign a TComponent to a TStringList");
+    }
+}
+
+// Counts the live instances, to see that owners free what they own.
+struct Counted : TComponent {
+    static inline int alive = 0;
+    explicit Counted(TComponent* owner) : TComponent(owner) { ++alive; }
+    ~Counted() override { --alive; }
+};
+
+TEST(Component, AnOwnerFreesTheComponentsItOwns) {
+    {
+        TComponent owner(nullptr);
+        auto* child = new Counted(&owner);
+        new Counted(child);  // owned by the child, freed through it
+        auto* freedEarly = new Counted(&owner);
+        EXPECT_EQ(Counted::alive, 3);
+        EXPECT_EQ(owner.ComponentCount(), 2);
+        delete freedEarly;  // leaves its owner's list
+        EXPECT_EQ(owner.ComponentCount(), 1);
+        EXPECT_EQ(owner.Components(0), child);
+        EXPECT_EQ(child->Owner(), &owner);
+    }
+    EXPECT_EQ(Counted::alive, 0);
+}
+
+// A component with one property of each kind, for the text form.
+struct Sample : TComponent {
+    std::int64_t count = 3;
+    long double level = 0.5L;
+    bool active = false;
+    std::string label;
+    TStringList lines;
+    int loadedCalls = 0;
+    bool loadingWhileReading = false;
+
+    explicit Sample(TComponent* owner) : TComponent(owner) {}
+    std::string_view ClassName() const override { return "TSample"; }
+    void Loaded() override {
+        TComponent::Loaded();
+        ++loadedCalls;
+    }
+    std::span<const TPropertyInfo> PublishedProperties() const override {
+        static const TPropertyInfo properties[] = {
+            {"Count", TPropertyType::Integer, true, std::int64_t(3),
+             [](const TComponent& c) { return TPropertyValue(S(c).count); },
+             [](TComponent& c, const TPropertyValue& v) {
+                 S(c).count = std::get<std::int64_t>(v);
+                 S(c).loadingWhileReading = c.Loading();
+             }},
+            {"Level", TPropertyType::Float, true, 0.5L,
+             [](const TComponent& c) { return TPropertyValue(S(c).level); },
+             [](TComponent& c, const TPropertyValue& v) { S(c).level = std::get<long double>(v); }},
+            {"Active", TPropertyType::Boolean, true, false,
+             [](const TComponent& c) { return TPropertyValue(S(c).active); },
+             [](TComponent& c, const TPropertyValue& v) { S(c).active = std::get<bool>(v); }},
+            {"Label", TPropertyType::Text, true, std::string(),
+             [](const TComponent& c) { return TPropertyValue(S(c).label); },
+             [](TComponent& c, const TPropertyValue& v) { S(c).label = std::get<std::string>(v); }},
+            {"Lines", TPropertyType::Strings, true, std::vector<std::string>{},
+             [](const TComponent& c) {
+                 std::vector<std::string> lines;
+                 for (int i = 0; i < S(c).lines.Count(); ++i) lines.push_back(S(c).lines[i]);
+                 return TPropertyValue(lines);
+             },
+             [](TComponent& c, const TPropertyValue& v) {
+                 S(c).lines.Clear();
+                 for (const auto& line : std::get<std::vector<std::string>>(v)) S(c).lines.Add(line);
+             }},
+            {"Derived", TPropertyType::Integer, false, std::int64_t(0),
+             [](const TComponent& c) { return TPropertyValue(S(c).count * 2); },
+             [](TComponent&, const TPropertyValue&) {}},
+        };
+        return properties;
+    }
+    static Sample& S(TComponent& c) { return static_cast<Sample&>(c); }
+    static const Sample& S(const TComponent& c) { return static_cast<const Sample&>(c); }
+};
+
+TEST(TextForm, WritesOnlyStoredPropertiesThatDifferFromTheirDefaults) {
+    Sample sample(nullptr);
+    EXPECT_EQ(WriteComponentText(sample), "TSample\nend\n");
+    sample.SetName("First");
+    sample.level = 0.1L;
+    sample.label = "say \"hi\"\\";
+    sample.lines.Add("1.5");
+    sample.lines.Add("a, b");
+    EXPECT_EQ(WriteComponentText(sample),
+              "TSample First\n"
+              "  Level = 0.1\n"
+              "  Label = \"say \\\"hi\\\"\\\\\"\n"
+              "  Lines = [\"1.5\", \"a, b\"]\n"
+              "end\n");
+}
+
+TEST(TextForm, ReadsBackEveryValueAndEndsWithLoaded) {
+    Sample original(nullptr);
+    original.SetName("S1");
+    original.count = -7;
+    original.level = 1.0L / 3;  // needs all 64 bits to read back
+    original.active = true;
+    original.label = "tab\there";
+    original.lines.SetText("x\ny\n");
+
+    Sample copy(nullptr);
+    ReadComponentText(copy, WriteComponentText(original));
+    EXPECT_EQ(copy.Name(), "S1");
+    EXPECT_EQ(copy.count, -7);
+    EXPECT_EQ(copy.level, 1.0L / 3);
+    EXPECT_TRUE(copy.active);
+    EXPECT_EQ(copy.label, "tab\there");
+    EXPECT_EQ(copy.lines.Text(), "x\ny\n");
+    EXPECT_TRUE(copy.loadingWhileReading);
+    EXPECT_FALSE(copy.Loading());
+    EXPECT_EQ(copy.loadedCalls, 1);
+}
+
+TEST(TextForm, RejectsWhatItCannotRead) {
+    Sample sample(nullptr);
+    const auto fails = [&](const std::string& text, const std::string& message) {
+        try {
+            ReadComponentText(sample, text);
+            ADD_FAILURE() << "read: " << text;
+        } catch (const EReadError& error) {
+            EXPECT_EQ(error.Message(), message);
+        }
+        EXPECT_FALSE(sample.Loading());
+    };
+    fails("TOther\nend\n", "The text holds a TOther, not a TSample");
+    fails("TSample\n  Count = 1\n", "A component text starts with its class and ends with 'end'");
+    fails("TSample\n  Derived = 4\nend\n", "Line 2: TSample has no stored property 'Derived'");
+    fails("TSample\n  Colour = 4\nend\n", "Line 2: TSample has no stored property 'Colour'");
+    fails("TSample\n  Count = many\nend\n", "Line 2: a number was expected");
+    fails("TSample\n  Active = yes\nend\n", "Line 2: true or false was expected");
+    fails("TSample\n  Lines = [\"a\"\nend\n", "Line 2: the list has no closing bracket");
+    fails("TSample\n  Count 4\nend\n", "Line 2: 'Name = value' expected");
+    EXPECT_EQ(sample.loadedCalls, 0);  // a failed read does not finish loading
+}
+
+}  // namespace
