@@ -1,0 +1,219 @@
+#include <kornum/NormalDistributions.h>
+
+#include <kornum/Kornum_RS_Math.h>
+#include <kornum/Kornummath.h>
+#include <kornum/Platform.h>
+
+#include <cmath>
+
+namespace KornumStatistics {
+
+namespace {
+
+using Kornummath::FloatIsPositive;
+using Kornummath::FloatIsZero;
+using Kornummath::SameFloat;
+
+constexpr Float TwoPi = 6.283185307179586477L;
+// The series stops once a term moves the result by no more than this.
+constexpr Float SeriesTolerance = 1e-18L;
+constexpr int SeriesTermLimit = 100;
+
+// ---- Checks, in the order the routines apply them --------------------------------------
+
+// The forward routines accept only a standard deviation that is positive beyond the
+// tolerance.
+void CheckForwardStdDev(Float StdDev) {
+    if (!FloatIsPositive(StdDev)) Platform::Raise(Kornum_RS_Math::rsStdDev);
+}
+// The inverse routines reject a zero within tolerance or any negative value. This
+// differs from the forward test on purpose: a tiny negative StdDev counts as zero in
+// one and as negative in the other, but both reject it.
+void CheckInverseStdDev(Float StdDev) {
+    if (FloatIsZero(StdDev) || StdDev < 0) Platform::Raise(Kornum_RS_Math::rsStdDev);
+}
+void CheckOpenProbability(Float P) {
+    if (P <= 0 || P >= 1) Platform::Raise(Kornum_RS_Math::rsValue01);
+}
+
+// exp(-D^2 / (2 StdDev^2)) with the denominator formed as StdDev * StdDev * 2.
+Float GaussianKernel(Float D, Float StdDev) { return std::exp(-(D * D) / (StdDev * StdDev * 2)); }
+
+// ---- Wichura's PPND16 ---------------------------------------------------------------------
+
+constexpr Float Split1 = 0.425L;
+constexpr Float Split2 = 5.0L;
+constexpr Float Const1 = 0.180625L;
+constexpr Float Const2 = 1.6L;
+
+// Coefficients from the lowest power up, as published.
+constexpr Float A[8] = {3.3871328727963666080e+00L, 1.3314166789178437745e+02L,
+                        1.9715909503065514427e+03L, 1.3731693765509461125e+04L,
+                        4.5921953931549871457e+04L, 6.7265770927008700853e+04L,
+                        3.3430575583588128105e+04L, 2.5090809287301226727e+03L};
+constexpr Float B[8] = {1.0L,
+                        4.2313330701600911252e+01L, 6.8718700749205790830e+02L,
+                        5.3941960214247511077e+03L, 2.1213794301586595867e+04L,
+                        3.9307895800092710610e+04L, 2.8729085735721942674e+04L,
+                        5.2264952788528545610e+03L};
+constexpr Float C[8] = {1.42343711074968357734e+00L, 4.63033784615654529590e+00L,
+                        5.76949722146069140550e+00L, 3.64784832476320460504e+00L,
+                        1.27045825245236838258e+00L, 2.41780725177450611770e-01L,
+                        2.27238449892691845833e-02L, 7.74545014278341407640e-04L};
+constexpr Float D[8] = {1.0L,
+                        2.05319162663775882187e+00L, 1.67638483018380384940e+00L,
+                        6.89767334985100004550e-01L, 1.48103976427480074590e-01L,
+                        1.51986665636164571966e-02L, 5.47593808499534494600e-04L,
+                        1.05075007164441684324e-09L};
+constexpr Float E[8] = {6.65790464350110377720e+00L, 5.46378491116411436990e+00L,
+                        1.78482653991729133580e+00L, 2.96560571828504891230e-01L,
+                        2.65321895265761230930e-02L, 1.24266094738807843860e-03L,
+                        2.71155556874348757815e-05L, 2.01033439929228813265e-07L};
+constexpr Float F[8] = {1.0L,
+                        5.99832206555887937690e-01L, 1.36929880922735805310e-01L,
+                        1.48753612908506148525e-02L, 7.86869131145613259100e-04L,
+                        1.84631831751005468180e-05L, 1.42151175831644588870e-07L,
+                        2.04426310338993978564e-15L};
+
+// Horner's rule from the highest coefficient down.
+Float Polynomial(const Float (&coefficients)[8], Float x) {
+    Float value = coefficients[7];
+    for (int i = 6; i >= 0; --i) value = value * x + coefficients[i];
+    return value;
+}
+
+// The normal cumulative probability of (X - Mean) / StdDev, reflecting a negative
+// argument through 1 - NormalLess because the series takes only Z >= 0.
+Float ReflectedNormalLess(Float Mean, Float StdDev, Float X) {
+    const Float standardised = (X - Mean) / StdDev;
+    if (standardised >= 0) return NormalLess(standardised);
+    return 1 - NormalLess((Mean - X) / StdDev);
+}
+
+// 0 for coinciding points; otherwise Less(X2) - Less(X1), negated when X1 > X2, so the
+// result is the probability between the points whatever their order.
+template <class Less>
+Float ProbabilityBetween(Float X1, Float X2, Less less) {
+    if (SameFloat(X1, X2)) return 0;
+    const Float difference = less(X2) - less(X1);
+    return X1 > X2 ? -difference : difference;
+}
+
+}  // namespace
+
+Float NormalZ(Float X) { return std::exp(-(X * X) / 2) / std::sqrt(TwoPi); }
+
+Float NormalLess(Float Z) {
+    if (Z < 0) Platform::Raise(Kornum_RS_Math::rsValueGZero);
+    const Float Z2 = Z * Z;
+    const Float density = NormalZ(Z);
+    Float term = Z;         // numerator Z^(2i+1)
+    Float denominator = 1;  // 1 * 3 * ... * (2i+1)
+    Float sum = Z;
+    Float previous = 0;
+    Float result = 0.5L;
+    for (int i = 1; i <= SeriesTermLimit; ++i) {
+        term *= Z2;
+        denominator *= Float(2 * i + 1);
+        sum += term / denominator;
+        result = density * sum + 0.5L;
+        if (std::fabs(result - previous) <= SeriesTolerance) break;
+        previous = result;
+    }
+    return result;
+}
+
+Float NormalGreater(Float Z) { return 1 - NormalLess(Z); }
+
+Float InvNormalLess(Float P) {
+    CheckOpenProbability(P);
+    const Float Q = P - 0.5L;
+    if (std::fabs(Q) <= Split1) {
+        const Float R = Const1 - Q * Q;
+        return Q * Polynomial(A, R) / Polynomial(B, R);
+    }
+    Float R = Q < 0 ? P : 1 - P;
+    if (R <= 0) Platform::Raise(Kornum_RS_Math::rsValue01);
+    R = std::sqrt(-std::log(R));
+    Float X;
+    if (R <= Split2) {
+        R -= Const2;
+        X = Polynomial(C, R) / Polynomial(D, R);
+    } else {
+        R -= Split2;
+        X = Polynomial(E, R) / Polynomial(F, R);
+    }
+    return Q < 0 ? -X : X;
+}
+
+Float InvNormalGreater(Float P) { return InvNormalLess(1 - P); }
+
+Float NormalPDF(Float X, Float Mean, Float StdDev) {
+    CheckForwardStdDev(StdDev);
+    return GaussianKernel(X - Mean, StdDev) / (std::sqrt(TwoPi) * StdDev);
+}
+
+Float NormalDistLess(Float Mean, Float StdDev, Float X) {
+    CheckForwardStdDev(StdDev);
+    return ReflectedNormalLess(Mean, StdDev, X);
+}
+
+Float NormalDistGreater(Float Mean, Float StdDev, Float X) {
+    CheckForwardStdDev(StdDev);
+    return 1 - ReflectedNormalLess(Mean, StdDev, X);
+}
+
+Float NormalDistBetween(Float Mean, Float StdDev, Float X1, Float X2) {
+    CheckForwardStdDev(StdDev);
+    return ProbabilityBetween(X1, X2, [&](Float X) { return ReflectedNormalLess(Mean, StdDev, X); });
+}
+
+Float InvNormalDistLess(Float Mean, Float StdDev, Float P) {
+    CheckOpenProbability(P);
+    CheckInverseStdDev(StdDev);
+    return InvNormalLess(P) * StdDev + Mean;
+}
+
+Float InvNormalDistGreater(Float Mean, Float StdDev, Float P) {
+    CheckOpenProbability(P);
+    CheckInverseStdDev(StdDev);
+    return InvNormalGreater(P) * StdDev + Mean;
+}
+
+Float ZAlpha(Float Alpha) { return InvNormalDistGreater(0, 1, Alpha); }
+
+Float LogNormalPDF(Float X, Float Mean, Float StdDev) {
+    CheckForwardStdDev(StdDev);
+    if (!FloatIsPositive(X)) Platform::Raise(Kornum_RS_Math::rsValueGZero);
+    return GaussianKernel(std::log(X) - Mean, StdDev) / (std::sqrt(TwoPi) * X * StdDev);
+}
+
+Float LogNormalLess(Float Mean, Float StdDev, Float X) {
+    CheckForwardStdDev(StdDev);
+    return ReflectedNormalLess(Mean, StdDev, std::log(X));
+}
+
+Float LogNormalGreater(Float Mean, Float StdDev, Float X) {
+    CheckForwardStdDev(StdDev);
+    return 1 - ReflectedNormalLess(Mean, StdDev, std::log(X));
+}
+
+Float LogNormalBetween(Float Mean, Float StdDev, Float X1, Float X2) {
+    CheckForwardStdDev(StdDev);
+    return ProbabilityBetween(
+        X1, X2, [&](Float X) { return ReflectedNormalLess(Mean, StdDev, std::log(X)); });
+}
+
+Float InvLogNormalLess(Float Mean, Float StdDev, Float P) {
+    CheckOpenProbability(P);
+    CheckInverseStdDev(StdDev);
+    return std::exp(Mean + StdDev * InvNormalLess(P));
+}
+
+Float InvLogNormalGreater(Float Mean, Float StdDev, Float P) {
+    CheckOpenProbability(P);
+    CheckInverseStdDev(StdDev);
+    return std::exp(Mean + StdDev * InvNormalGreater(P));
+}
+
+}  // namespace KornumStatistics
