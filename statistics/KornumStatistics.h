@@ -2,10 +2,6 @@
 // is split by topic; this header brings in every topic.
 #pragma once
 
-
 #include <kornum/Combinatorics.h>
 #include <kornum/DiscreteDistributions.h>
 #include <kornum/NormalDistributions.h>
-#include <kornum/SampleMoments.h>
-#include <kornum/OrderStatistics.h>
-#include <kornum/Regression.h>
