@@ -5,3 +5,6 @@
 #include <kornum/Combinatorics.h>
 #include <kornum/DiscreteDistributions.h>
 #include <kornum/NormalDistributions.h>
+#include <kornum/SampleMoments.h>
+#include <kornum/OrderStatistics.h>
+#include <kornum/Regression.h>
