@@ -4,6 +4,7 @@
 
 #include <kornum/Combinatorics.h>
 #include <kornum/DiscreteDistributions.h>
+#include <kornum/GroupedStatistics.h>
 #include <kornum/NormalDistributions.h>
 #include <kornum/SampleMoments.h>
 #include <kornum/OrderStatistics.h>
