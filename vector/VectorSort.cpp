@@ -4,9 +4,11 @@
 
 #include <kornum/Kornumsystem.h>
 
+#include <algorithm>
 #include <array>
 #include <cassert>
 #include <cmath>
+#include <vector>
 
 namespace KornumVector {
 
@@ -42,29 +44,32 @@ void QuickSortDirected(E* a, Integer n) {
         Integer L = stack[--top].L;
         Integer R = stack[top].R;
         do {
-            Integer i = L, j = R;
+            // The scans run on pointers with the pivot held in a register.
+            E* i = a + L;
+            E* j = a + R;
             const ValueOf<E> P = a[Integer((Cardinal(L) + Cardinal(R)) / 2)];
             do {
-                while (O::Before(a[i], P)) ++i;
-                while (O::Before(P, a[j])) --j;
+                while (O::Before(*i, P)) ++i;
+                while (O::Before(P, *j)) --j;
                 if (i <= j) {
-                    Kornumsystem::SwapXY(a[i], a[j]);
+                    Kornumsystem::SwapXY(*i, *j);
                     ++i;
                     --j;
                 }
             } while (i <= j);
-            if (j - L < R - i) {
-                if (i < R) {
+            const Integer iPos = Integer(i - a), jPos = Integer(j - a);
+            if (jPos - L < R - iPos) {
+                if (iPos < R) {
                     assert(top < capacity);
-                    stack[top++] = Range{i, R};
+                    stack[top++] = Range{iPos, R};
                 }
-                R = j;
+                R = jPos;
             } else {
-                if (j > L) {
+                if (jPos > L) {
                     assert(top < capacity);
-                    stack[top++] = Range{L, j};
+                    stack[top++] = Range{L, jPos};
                 }
-                L = i;
+                L = iPos;
             }
         } while (L < R);
     }
@@ -141,18 +146,47 @@ Integer Rank(const TKorVector<E>& V, Cardinal Index, bool ascending) {
     return RankOfValue(V, ValueOf<E>(V[Integer(Index)]), ascending);
 }
 
+// Every element's rank from one sort of (value, index) pairs and one walk along it.
+//
+// The sorted values are those of the sorted copy (a correct sort places the same values
+// at the same positions; only zeros of either sign may trade places, and the tests treat
+// them alike). Along the sorted values the first match of each value is found from the
+// previous one's: the matches of a value are one run that contains the value itself,
+// so the walk steps back while the element before still matches and forward while the
+// current one does not. Adjacent values have nearby runs, so the walk is linear overall.
 template <class E>
 TKorLIntVector RankVector(const TKorVector<E>& V, bool ascending) {
+    using R = ElementRules<E>;
+    using Value = ValueOf<E>;
     TKorLIntVector result;
     const Integer n = V.Length();
     if (n == 0) return result;
-    const TKorVector<E> sorted = SortedCopy(V, ascending);
-    const bool ordered = !HoldsNaN(sorted);
     result.SetLength(n);
-    const E* s = sorted.data();
-    const E* v = V.data();
     Integer* out = result.data();
-    for (Integer i = 0; i < n; ++i) out[i] = FirstMatch(s, n, ValueOf<E>(v[i]), ascending, ordered);
+    if (HoldsNaN(V)) {
+        // Unordered values: the plain walk over the sorted copy, element by element.
+        const TKorVector<E> sorted = SortedCopy(V, ascending);
+        for (Integer i = 0; i < n; ++i) out[i] = FirstMatch(sorted.data(), n, At(V, i), ascending, false);
+        return result;
+    }
+    struct Entry {
+        Value value;
+        Integer index;
+    };
+    std::vector<Entry> entries(static_cast<std::size_t>(n));
+    for (Integer i = 0; i < n; ++i) entries[std::size_t(i)] = Entry{At(V, i), i};
+    if (ascending)
+        std::sort(entries.begin(), entries.end(), [](const Entry& x, const Entry& y) { return x.value < y.value; });
+    else
+        std::sort(entries.begin(), entries.end(), [](const Entry& x, const Entry& y) { return y.value < x.value; });
+    const Entry* s = entries.data();
+    Integer p = 0;
+    for (Integer q = 0; q < n; ++q) {
+        const Value x = s[q].value;
+        while (p > 0 && R::Same(s[p - 1].value, x)) --p;
+        while (!R::Same(s[p].value, x)) ++p;  // stops at q at the latest
+        out[s[q].index] = p;
+    }
     return result;
 }
 
