@@ -17,14 +17,25 @@ using Kornumglobals::Single;
 // ---- Special functions -------------------------------------------------------------
 
 // The gamma function. Poles (0 and the negative integers) give NaN or infinity.
+// The C library's extended tgammal: within 2.1 ulps over (0, 1750] and negative
+// non-integers, near the poles included.
 Float Gamma(Float X);
-// ln |Gamma(X)|; the library calls it for X > 0.
+// ln |Gamma(X)|; the library calls it for X > 0. The C library's lgammal_r: within
+// 1.5 ulps, and within 1e-20 absolute near the zeros at 1 and 2.
 Float LnGamma(Float X);
-// The complete beta function Gamma(A) Gamma(B) / Gamma(A + B), for A, B > 0.
+// The complete beta function Gamma(A) Gamma(B) / Gamma(A + B), for A, B > 0 (NaN
+// otherwise). Within 3.1 ulps while A + B <= 1750 (the product of gammas, the rounding
+// of A + B corrected); beyond, Stirling's formula, whose error grows with |ln Beta|
+// (3.4e-16 relative at worst for A, B up to 1e4).
 Float Beta(Float A, Float B);
-// The regularised incomplete beta function I_X(A, B), for X in [0, 1] and A, B > 0.
+// The regularised incomplete beta function I_X(A, B), for X in [0, 1] and A, B > 0
+// (NaN outside). A continued fraction times a prefix x^A (1-x)^B / Beta(A, B) that is
+// taken from Stirling's formula around the centre when A and B are large: within 30 ulps
+// for A, B in [0.5, 100] (results above 1e-30), 6.4e-17 relative for A, B up to 1e4.
 Float IncompleteBeta(Float X, Float A, Float B);
-// The X in [0, 1] with I_X(A, B) = P, for P in [0, 1] and A, B > 0.
+// The X in [0, 1] with I_X(A, B) = P, for P in [0, 1] and A, B > 0 (NaN outside);
+// P = 0 gives 0 and P = 1 gives 1. Halley steps on the smaller tail from a classical
+// first guess: within 1.4e-18 relative for P in [1e-10, 1 - 1e-10], A, B in [0.5, 100].
 Float InverseIncompleteBeta(Float P, Float A, Float B);
 
 // ---- Elementary functions ----------------------------------------------------------
