@@ -1,5 +1,4 @@
-// Helpers shared by the distribution and grouped-data tests: the exact-failure check
-// and the reader of the reference tables under tests/data.
+// Helpers of the distribution and grouped-data tests.
 #pragma once
 
 #include <kornum/Kornumglobals.h>
@@ -7,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -18,8 +18,7 @@ namespace distribution_tests {
 
 using Kornumglobals::Float;
 
-// Runs call and checks that it throws exactly class E (not a subclass or base) with
-// the text of the identifier, nothing appended.
+// call must throw exactly class E with the identifier's text, nothing appended.
 template <class E = Platform::EMathError, class Call>
 void ExpectRaises(Call call, const Platform::ResourceString& resource) {
     try {
@@ -31,27 +30,23 @@ void ExpectRaises(Call call, const Platform::ResourceString& resource) {
     }
 }
 
-// The rows of a tab-separated reference table, '#' lines skipped; fields stay text so
-// each test parses them into the types it needs (strtold for Float).
-inline std::vector<std::vector<std::string>> ReadTable(const std::string& name) {
+// The rows of a tab-separated table under tests/data, parsed as Float ('#' lines skipped).
+inline std::vector<std::vector<Float>> ReadTable(const std::string& name) {
     std::ifstream in(std::string(KORNUM_TEST_DATA_DIR) + "/" + name);
     EXPECT_TRUE(in.good()) << "missing reference table " << name;
-    std::vector<std::vector<std::string>> rows;
+    std::vector<std::vector<Float>> rows;
     for (std::string line; std::getline(in, line);) {
         if (line.empty() || line[0] == '#') continue;
-        std::vector<std::string> fields;
-        std::istringstream split(line);
-        for (std::string field; std::getline(split, field, '\t');) fields.push_back(field);
-        rows.push_back(fields);
+        std::istringstream fields(line);
+        rows.emplace_back();
+        for (std::string field; std::getline(fields, field, '\t');)
+            rows.back().push_back(std::strtold(field.c_str(), nullptr));
     }
     return rows;
 }
 
-inline Float ToFloat(const std::string& text) { return std::strtold(text.c_str(), nullptr); }
-
 inline Float RelativeError(Float value, Float reference) {
-    const Float difference = value - reference;
-    return (difference < 0 ? -difference : difference) / (reference < 0 ? -reference : reference);
+    return std::fabs(value - reference) / std::fabs(reference);
 }
 
 }  // namespace distribution_tests
