@@ -1,17 +1,25 @@
 // The kornum command-line program.
+#include "DescribeCommand.h"
+
 #include <kornum/KornumPackage.h>
 
 #include <cstdio>
-#include <cstring>
+#include <string>
+#include <vector>
 
 namespace {
 
 constexpr const char* Usage =
-    "Usage: kornum [--help | --version]\n"
+    "Usage: kornum COMMAND [ARGUMENTS]\n"
+    "       kornum --help | --version\n"
     "\n"
     "kornum is a numerical component library: typed vectors and matrices,\n"
     "statistics, distribution functions and random variates in 80-bit\n"
-    "extended precision.\n"
+    "extended precision. This program puts some of it on the command line.\n"
+    "\n"
+    "Commands:\n"
+    "  describe   descriptive statistics of the numbers in files\n"
+    "             (kornum describe --help for its options)\n"
     "\n"
     "Options:\n"
     "  --help     show this text and exit\n"
@@ -20,14 +28,21 @@ constexpr const char* Usage =
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 2 && std::strcmp(argv[1], "--help") == 0) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (arguments.size() == 1 && arguments[0] == "--help") {
         std::fputs(Usage, stdout);
         return 0;
     }
-    if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+    if (arguments.size() == 1 && arguments[0] == "--version") {
         std::printf("kornum %s\n", KornumPackage::Version().c_str());
         return 0;
     }
-    std::fputs(Usage, stderr);
+    if (!arguments.empty() && arguments[0] == "describe")
+        return KornumCli::RunDescribe({arguments.begin() + 1, arguments.end()});
+    if (arguments.empty()) {
+        std::fputs(Usage, stderr);
+    } else {
+        std::fprintf(stderr, "kornum: unknown command '%s'\nTry 'kornum --help'.\n", arguments[0].c_str());
+    }
     return 2;
 }

@@ -1,0 +1,85 @@
+#include "DescribeCommand.h"
+
+#include "NumberReader.h"
+
+#include <kornum/KornumDescStats.h>
+
+#include <charconv>
+#include <cstdio>
+
+namespace KornumCli {
+
+const char* const DescribeUsage =
+    "Usage: kornum describe [--population] [--decimals N] [FILE ...]\n"
+    "\n"
+    "Reads numbers from the files (standard input when there are none, or for '-'),\n"
+    "separated by any white space, and prints their descriptive statistics: count,\n"
+    "extremes, range, sums, mean, mode, median, variance and standard deviation,\n"
+    "kurtosis, skew and quartiles, one 'caption<TAB>value' line each.\n"
+    "\n"
+    "Options:\n"
+    "  --population  treat the numbers as a whole population (default: a sample)\n"
+    "  --decimals N  decimals in the report, 0 to 255 (default 4)\n"
+    "  --help        show this text\n"
+    "\n"
+    "A token that is not a number stops the command with exit status 2 and a message\n"
+    "naming the file, the line and the text; no report is printed then.\n";
+
+namespace {
+
+int UsageError(const std::string& message) {
+    std::fprintf(stderr, "kornum describe: %s\nTry 'kornum describe --help'.\n", message.c_str());
+    return 2;
+}
+
+}  // namespace
+
+int RunDescribe(const std::vector<std::string>& arguments) {
+    bool population = false;
+    int decimals = 4;
+    std::vector<std::string> files;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
+        if (argument == "--help") {
+            std::fputs(DescribeUsage, stdout);
+            return 0;
+        } else if (argument == "--population") {
+            population = true;
+        } else if (argument == "--decimals") {
+            if (i + 1 == arguments.size()) return UsageError("--decimals needs a number");
+            const std::string& count = arguments[++i];
+            auto [end, error] = std::from_chars(count.data(), count.data() + count.size(), decimals);
+            if (error != std::errc() || end != count.data() + count.size() || decimals < 0 || decimals > 255)
+                return UsageError("--decimals takes a whole number from 0 to 255, not '" + count + "'");
+        } else if (argument.size() > 1 && argument[0] == '-') {
+            return UsageError("unknown option '" + argument + "'");
+        } else {
+            files.push_back(argument);
+        }
+    }
+    if (files.empty()) files.push_back("-");
+
+    std::vector<long double> numbers;
+    try {
+        for (const std::string& file : files) ReadNumbers(ReadSource(file), file, numbers);
+    } catch (const InputError& error) {
+        std::fprintf(stderr, "kornum describe: %s\n", error.what());
+        return 2;
+    }
+
+    // One batch: the values go in together, so the statistics are computed once.
+    Kornumglobals::TKorFloatVector values;
+    values.SetLength(static_cast<Kornumglobals::Integer>(numbers.size()));
+    for (std::size_t i = 0; i < numbers.size(); ++i) values[Kornumglobals::Integer(i)] = numbers[i];
+    KornumDescStats::TKorDescStats stats(nullptr);
+    stats.SetDecimalPlaces(Kornumglobals::Byte(decimals));
+    stats.BeginUpdate();
+    stats.SetPopulation(population);
+    stats.SetValues(values);
+    stats.EndUpdate();
+
+    std::fputs(stats.DescStats()->Text().c_str(), stdout);
+    return 0;
+}
+
+}  // namespace KornumCli

@@ -1,0 +1,15 @@
+// `kornum describe`: the descriptive-statistics report of the numbers in files.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace KornumCli {
+
+// Runs the command with the arguments after "describe"; returns the exit status
+// (0 report printed, 2 bad usage or bad input: a message on standard error, no report).
+int RunDescribe(const std::vector<std::string>& arguments);
+
+extern const char* const DescribeUsage;
+
+}  // namespace KornumCli

@@ -1,0 +1,85 @@
+// `kornum describe` end to end: the program is run as a user runs it.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace {
+
+struct Outcome {
+    int status;
+    std::string output;  // standard output and standard error together
+};
+
+Outcome RunKornum(const std::string& arguments, const std::string& input = "") {
+    const std::string command = "printf '%s' '" + input + "' | " + KORNUM_CLI_PATH + " " + arguments + " 2>&1";
+    FILE* pipe = popen(command.c_str(), "r");
+    std::string output;
+    char buffer[4096];
+    std::size_t count;
+    while ((count = fread(buffer, 1, sizeof buffer, pipe)) > 0) output.append(buffer, count);
+    const int status = pclose(pipe);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+}
+
+class DescribeCli : public ::testing::Test {
+protected:
+    std::filesystem::path directory = std::filesystem::temp_directory_path() /
+                                      ("kornum-cli-" + std::to_string(::getpid()));
+    void SetUp() override { std::filesystem::create_directories(directory); }
+    void TearDown() override { std::filesystem::remove_all(directory); }
+    std::string File(const std::string& name, const std::string& content) {
+        const auto path = directory / name;
+        std::ofstream(path) << content;
+        return path.string();
+    }
+};
+
+TEST_F(DescribeCli, ReportsNumbersFromFilesSeparatedByAnyWhiteSpace) {
+    const std::string a = File("a.txt", "2 4\t4\n4\n");
+    const std::string b = File("b.txt", "  5\r\n5 7 \n\n9");
+    const Outcome outcome = RunKornum("describe --population " + a + " " + b);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output,
+              "Number of Values:\t8\nMaximum:\t9.0000\nMinimum:\t2.0000\nRange:\t7.0000\n"
+              "Sum:\t40.0000\nSum of Squares:\t232.0000\nMean:\t5.0000\nMode:\t4.0000\n"
+              "Median:\t4.5000\nVariance:\t4.0000\nStandard Deviation:\t2.0000\n"
+              "Kurtosis:\t-0.2188\nSkew:\t0.6562\nFirst Quartile:\t4.0000\n"
+              "Third Quartile:\t6.0000\nInter-Quartile Range:\t2.0000\n");
+}
+
+TEST_F(DescribeCli, ReadsStandardInputAndHonoursDecimals) {
+    const Outcome outcome = RunKornum("describe --decimals 1", "1.5 2.5");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_NE(outcome.output.find("Mean:\t2.0\n"), std::string::npos) << outcome.output;
+    EXPECT_NE(outcome.output.find("Variance:\t0.5\n"), std::string::npos);  // a sample by default
+    EXPECT_EQ(RunKornum("describe -", "").output, "The vector is empty\n");
+}
+
+TEST_F(DescribeCli, BadInputNamesFileLineAndTextAndPrintsNoReport) {
+    const std::string file = File("bad.txt", "1 2\n3 x4 5\n");
+    const Outcome outcome = RunKornum("describe " + file);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "kornum describe: " + file + ":2: 'x4' is not a valid number\n");
+
+    const Outcome missing = RunKornum("describe " + (directory / "none.txt").string());
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_NE(missing.output.find("No such file or directory"), std::string::npos);
+}
+
+TEST_F(DescribeCli, RejectsBadOptionsAndExplainsItself) {
+    EXPECT_EQ(RunKornum("describe --decimals 300").status, 2);
+    EXPECT_EQ(RunKornum("describe --decimals").status, 2);
+    EXPECT_EQ(RunKornum("describe --frobnicate").status, 2);
+    EXPECT_EQ(RunKornum("frobnicate").status, 2);
+    const Outcome help = RunKornum("describe --help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.output.rfind("Usage: kornum describe", 0), 0u);
+    EXPECT_EQ(RunKornum("--version").output.rfind("kornum ", 0), 0u);
+}
+
+}  // namespace
