@@ -65,8 +65,9 @@ template <class Trim, class V>
 Float Trimmed(const V& X, Float Alpha) {
     if (Kornummath::FloatIsZero(Alpha)) return KorMean(X);
     if (Kornummath::SameFloat(Alpha, Trim::MedianAlpha)) return GetMedian(X);
-    // Exact range test: a tiny negative Alpha has already taken the mean above.
-    if (Alpha < 0.0L || Alpha > Trim::MedianAlpha) Raise(RS::rsInvalidValue);
+    // Exact range test (a tiny negative Alpha has already taken the mean above); written
+    // so that a NaN Alpha is out of range too.
+    if (!(Alpha >= 0.0L && Alpha <= Trim::MedianAlpha)) Raise(RS::rsInvalidValue);
     RequireNotEmpty(X);
     const std::int32_t n = X.Length();
     if (n == 1) return Float(X[0]);

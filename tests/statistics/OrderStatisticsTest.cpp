@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -45,6 +46,7 @@ TYPED_TEST(OrderMembers, TrimmedMeans) {
 
     EXPECT_TRUE(RaisesMath([&] { TrimmedMean(X, 0.6L); }, rsInvalidValue));
     EXPECT_TRUE(RaisesMath([&] { ExcelTrimmedMean(X, 1.2L); }, rsInvalidValue));
+    EXPECT_TRUE(RaisesMath([&] { TrimmedMean(X, std::nanl("")); }, rsInvalidValue));
     EXPECT_EQ(ExcelTrimmedMean(X, 0.6L), 5.5L);  // accepted: about 3 off each end
     // Alpha is checked before the length; the shortcuts report through their delegate.
     EXPECT_TRUE(RaisesMath([] { TrimmedMean(TypeParam{}, 0.7L); }, rsInvalidValue));
