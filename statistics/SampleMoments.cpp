@@ -161,7 +161,7 @@ void OnePassSpreadAndMean(const V& X, Float& Spread, Float& MeanOut) {
 }  // namespace
 
 // ---- Typed members ------------------------------------------------------------------
-// Each vector type gets the same eleven forwarding members.
+// Each vector type gets the same nine members, forwarding to the templates above.
 #define KORNUM_MOMENT_MEMBERS(Vector)                                                          \
     Float KorMean(const Vector& X) { return Mean(X); }                                         \
     Float SampleVariance(const Vector& X) { return SampleVarianceOf(X); }                      \
