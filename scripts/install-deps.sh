@@ -10,6 +10,10 @@ packages=(
   libboost-dev libgsl-dev         # peers measured in the benchmarks
   python3-mpmath                  # regenerating the reference tables
 )
+# With --bench: also what the whole-program benchmark compares against.
+if [ "${1:-}" = "--bench" ]; then
+  packages+=(python3-numpy python3-scipy hyperfine)
+fi
 
 missing=()
 for package in "${packages[@]}"; do
