@@ -2,13 +2,77 @@
 
 #include <kornum/PlatformExceptions.h>
 
+#include <array>
 #include <charconv>
+#include <cstdint>
 #include <cmath>
 
 namespace Kornumconvert {
 namespace {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v'; }
+
+// The exact powers of ten of a Float: 10^k for k <= 27 (5^27 < 2^64).
+constexpr int ExactPowers = 27;
+constexpr auto PowersOfTen = [] {
+    std::array<Float, ExactPowers + 1> powers{};
+    Float power = 1;
+    for (auto& p : powers) {
+        p = power;
+        power *= 10;
+    }
+    return powers;
+}();
+
+// Reads plain decimal text (digits, an optional '.', an optional exponent) whose
+// significant digits fit 64 bits and whose scale is an exact power of ten: the value is
+// then one correctly rounded product or quotient of two exact Floats. Returns false
+// for anything else, which the general conversion handles.
+bool ReadSimpleDecimal(std::string_view text, Float& value) {
+    std::uint64_t digits = 0;
+    int significant = 0, scale = 0;
+    bool anyDigit = false, point = false;
+    std::size_t i = 0;
+    for (; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c >= '0' && c <= '9') {
+            anyDigit = true;
+            if (digits == 0 && c == '0') {
+                if (point) --scale;
+                continue;
+            }
+            if (++significant > 19) return false;
+            digits = digits * 10 + std::uint64_t(c - '0');
+            if (point) --scale;
+        } else if (c == '.' && !point) {
+            point = true;
+        } else {
+            break;
+        }
+    }
+    if (!anyDigit) return false;
+    if (i < text.size()) {
+        if (text[i] != 'e' && text[i] != 'E') return false;
+        ++i;
+        bool negative = false;
+        if (i < text.size() && (text[i] == '+' || text[i] == '-')) negative = text[i++] == '-';
+        if (i == text.size()) return false;
+        int exponent = 0;
+        for (; i < text.size(); ++i) {
+            if (text[i] < '0' || text[i] > '9' || exponent > 1000) return false;
+            exponent = exponent * 10 + (text[i] - '0');
+        }
+        scale += negative ? -exponent : exponent;
+    }
+    if (digits == 0) {
+        value = 0;
+        return true;
+    }
+    if (scale < -ExactPowers || scale > ExactPowers) return false;
+    value = scale < 0 ? Float(digits) / PowersOfTen[std::size_t(-scale)]
+                      : Float(digits) * PowersOfTen[std::size_t(scale)];
+    return true;
+}
 
 [[noreturn]] void RaiseNotANumber(std::string_view text) {
     throw Platform::EConvertError("'" + std::string(text) + "' is not a valid number");
@@ -46,6 +110,7 @@ Float Str2Float(std::string_view S) {
         RaiseNotANumber(S);
 
     Float value = 0;
+    if (ReadSimpleDecimal(number, value)) return negative ? -value : value;
     auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value,
                                         std::chars_format::general);
     if (error == std::errc::result_out_of_range)

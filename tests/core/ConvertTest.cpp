@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
+#include <random>
+#include <string>
 #include <limits>
 
 using namespace Kornumconvert;
@@ -39,6 +42,25 @@ TEST(Str2Float, AcceptsWhatAPersonTypes) {
     EXPECT_EQ(Str2Float("0.1"), 0.1L);  // correctly rounded to the 64-bit significand
     EXPECT_TRUE(std::isinf(Str2Float("-inf")));
     EXPECT_TRUE(std::isnan(Str2Float("NaN")));
+}
+
+TEST(Str2Float, IsCorrectlyRoundedForEveryShapeOfDecimal) {
+    // The standard library's correctly rounded conversion is the reference, over
+    // decimals with 1 to 22 significant digits, leading and trailing zeros, exponents.
+    std::mt19937_64 random(11);
+    for (int i = 0; i < 200000; ++i) {
+        std::string digits = std::to_string(random() % 10000000000000000000ULL);
+        digits.resize(1 + random() % digits.size());
+        if (random() % 4 == 0) digits += std::string(random() % 5, '0');
+        const std::size_t point = random() % (digits.size() + 1);
+        std::string text = "0";
+        text.append(digits, 0, point).append(".").append(digits, point);
+        if (random() % 3 == 0) text += "e" + std::to_string(int(random() % 80) - 40);
+        Float expected = 0;
+        std::from_chars(text.data(), text.data() + text.size(), expected);
+        ASSERT_EQ(Str2Float(text), expected) << text;
+        ASSERT_EQ(Str2Float(std::string("-").append(text)), -expected) << text;
+    }
 }
 
 TEST(Str2Float, RoundTripsTheTwentyDecimalText) {
