@@ -55,7 +55,7 @@ TEST(Str2Float, IsCorrectlyRoundedForEveryShapeOfDecimal) {
         const std::size_t point = random() % (digits.size() + 1);
         std::string text = "0";
         text.append(digits, 0, point).append(".").append(digits, point);
-        if (random() % 3 == 0) text += "e" + std::to_string(int(random() % 80) - 40);
+        if (random() % 3 == 0) text.append("e").append(std::to_string(int(random() % 80) - 40));
         Float expected = 0;
         std::from_chars(text.data(), text.data() + text.size(), expected);
         ASSERT_EQ(Str2Float(text), expected) << text;
