@@ -189,17 +189,18 @@ inline Float Exp(TwoFloat e) {
 inline constexpr Float StirlingThreshold = 15;
 
 // The Stirling remainder mu(z) = ln Gamma(z) - ((z - 1/2) ln z - z + ln sqrt(2 pi)) for
-// z >= 15: ten terms of the asymptotic series, the first omitted below 1e-22.
-inline Float StirlingRemainder(Float z) {
+// z >= 15, given r = 1 / z: ten terms of the asymptotic series (five from z = 60 on), the
+// first omitted below 1e-22.
+inline Float StirlingRemainder(Float r) {
     // B(2k) / (2k (2k - 1)), k = 1 .. 10.
     static constexpr Float c[] = {
         1.0L / 12,      -1.0L / 360,         1.0L / 1260,    -1.0L / 1680,
         1.0L / 1188,    -691.0L / 360360,    1.0L / 156,     -3617.0L / 122400,
         43867.0L / 244188, -174611.0L / 125400};
-    const Float r = 1 / z;
     const Float r2 = r * r;
-    Float sum = c[9];
-    for (int k = 8; k >= 0; --k) sum = sum * r2 + c[k];
+    int k = r > 1.0L / 60 ? 9 : 4;
+    Float sum = c[k];
+    while (k > 0) sum = sum * r2 + c[--k];
     return sum * r;
 }
 
@@ -223,9 +224,10 @@ inline GammaParts SplitGamma(TwoFloat x) {
     // (z - 1/2) ln z - z + mu(z) + ln sqrt(2 pi); z.hi - 1/2 is exact from 15 on, and the
     // low part of z enters to first order through the derivative ln z - 1 / (2z).
     const TwoFloat lnZ = Log(z.hi);
-    const Float slope = lnZ.hi - 0.5L / z.hi;
+    const Float inverse = 1 / z.hi;
+    const Float slope = lnZ.hi - 0.5L * inverse;
     const TwoFloat logGamma = lnZ * (z.hi - 0.5L) + TwoFloat{-z.hi, 0} + LnSqrtTwoPi +
-                              TwoFloat{StirlingRemainder(z.hi) + z.lo * slope, 0};
+                              TwoFloat{StirlingRemainder(inverse) + z.lo * slope, 0};
     return {logGamma, product};
 }
 
