@@ -2,6 +2,10 @@
 #pragma once
 
 #include <kornum/Platform.h>
+#include <kornum/PlatformClasses.h>
+#include <kornum/PlatformComponents.h>
+#include <kornum/PlatformStreaming.h>
+
 #include <kornum/Kornumglobals.h>
 #include <kornum/Kornum_RS_Math.h>
 #include <kornum/Kornummath.h>
@@ -9,4 +13,9 @@
 #include <kornum/Kornumfinancials.h>
 #include <kornum/Kornumconvert.h>
 #include <kornum/Kornummsgs.h>
+
+#include <kornum/KornumVector.h>
+#include <kornum/KornumStatistics.h>
+#include <kornum/KornumDescStats.h>
+#include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/KornumPackage.h>
