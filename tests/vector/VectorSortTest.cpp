@@ -133,7 +133,9 @@ void ExpectFastRanksEqualPlainWalk(std::mt19937_64& gen) {
             }
         }
     }
-    if constexpr (std::is_floating_point_v<ValueOf<E>>) EXPECT_GT(tolerantTies, 100);
+    if constexpr (std::is_floating_point_v<ValueOf<E>>) {
+        EXPECT_GT(tolerantTies, 100);
+    }
 }
 
 TYPED_TEST(VectorSorting, FastRanksEqualThePlainWalkOnNearTies) {
