@@ -145,45 +145,75 @@ Float BetaPrefix(Float x, Float a, Float b, const Offset& offset, LazyBeta& lazy
 // Levels are scaled by (a + 1)^-2 to keep A and B near unit growth; an exact power-of-two
 // rescale guards the rest. Successive convergents differ by D / (B B'), D = A B' - A' B,
 // which the recurrence multiplies by -c_m.
+
+// The per-call constants of the levels m >= 2 in the type T, every factor a + k scaled as
+// (a + k) / (a + 1), so that a level costs a few multiply-adds.
+template <class T>
+struct FractionLevels {
+    T b, x, scale, twoScale, one, aMinus1, aMinus3, xScaled, sxScaled, p0, p1, q0, q1;
+
+    // c_m and e_m times scale^4 and scale^2.
+    void At(T m, T& c, T& e) const {
+        const T ms = m * scale, twoMs = m * twoScale;
+        const T up = one + twoMs;  // a + 2m + 1
+        const T g = (b - m) * x * m;
+        c = up * (aMinus3 + twoMs) * (aMinus1 + ms) * (sxScaled + m * xScaled) * g;
+        e = (aMinus1 + twoMs) * (p0 + m * p1 + ms * (q0 + m * q1)) + g * up * scale;
+    }
+
+    template <class U>
+    FractionLevels<U> As() const {
+        return {U(b),        U(x),       U(scale),    U(twoScale), U(one),
+                U(aMinus1),  U(aMinus3), U(xScaled),  U(sxScaled), U(p0),
+                U(p1),       U(q0),      U(q1)};
+    }
+};
+
 Float BetaFraction(Float x, Float a, Float b, Float oneMinusW, Float sx) {
     constexpr Float big = 0x1p+4096L, shrink = 0x1p-4096L;
-    // Every factor a + k comes scaled as (a + k) / (a + 1); the per-call constants below
-    // leave a few multiply-adds per factor and level.
-    const Float scale = 1 / (a + 1), twoScale = 2 * scale;
-    const Float aScaled = a * scale, one = (a + 1) * scale, aMinus1 = (a - 1) * scale,
-                aMinus3 = (a - 3) * scale, xScaled = x * scale, sxScaled = (sx - x) * scale;
-    const Float p0 = aScaled * oneMinusW, p1 = aScaled * (3 - x), q0 = oneMinusW + 1,
-                q1 = 4 - x;
+    const Float scale = 1 / (a + 1), aScaled = a * scale;
+    const FractionLevels<Float> levels{
+        b, x, scale, 2 * scale, (a + 1) * scale, (a - 1) * scale, (a - 3) * scale,
+        x * scale, (sx - x) * scale, aScaled * oneMinusW, aScaled * (3 - x),
+        oneMinusW + 1, 4 - x};
     Float prevA = 0, prevB = 1, A = 1, B = oneMinusW, det = 1;  // det = A prevB - prevA B
-    const auto advance = [&](Float c, Float e) {
+    const auto advance = [&](Float c, Float e) {  // A, B <- e (A, B) + c (A', B')
         const Float nextA = e * A + c * prevA, nextB = e * B + c * prevB;
         prevA = A; prevB = B; A = nextA; B = nextB;
         det *= -c;
     };
-    // Level m >= 2 (level 1 lacks the factor a + 2m - 3).
-    const auto step = [&](Float m) {
-        const Float ms = m * scale, twoMs = m * twoScale;
-        const Float up = one + twoMs;                                // a + 2m + 1
-        const Float g = (b - m) * x * m;                             // m (b - m) x
-        const Float c = up * (aMinus3 + twoMs) * (aMinus1 + ms) * (sxScaled + m * xScaled) * g;
-        const Float e = (aMinus1 + twoMs) * (p0 + m * p1 + ms * (q0 + m * q1)) + g * up * scale;
-        advance(c, e);
-    };
-    {
-        const Float g = (b - 1) * x;
-        const Float up = one + twoScale;
-        advance((a + 3) * scale * (sx * scale) * g,
-                (aMinus1 + twoScale) * (p0 + p1 + scale * (q0 + q1)) + g * up * scale);
-    }
-    // Two levels per pass; the test comes after the second.
-    for (Float m = 2; m < 100000; m += 2) {
-        step(m);
-        step(m + 1);
-        if (std::fabs(det) <= Epsilon / 2 * std::fabs(A * prevB)) break;
-        if (std::fabs(B) > big) {
-            A *= shrink; B *= shrink; prevA *= shrink; prevB *= shrink;
-            det *= shrink * shrink;
+    // Level 1 lacks the factor a + 2m - 3.
+    const Float g = (b - 1) * x;
+    advance((a + 3) * scale * (sx * scale) * g,
+            (levels.aMinus1 + levels.twoScale) *
+                    (levels.p0 + levels.p1 + scale * (levels.q0 + levels.q1)) +
+                g * (levels.one + levels.twoScale) * scale);
+    // Two levels per pass, then the tests. Once successive convergents agree to 2^-10, a
+    // level's coefficients move the value by far less than 2^-10 of their own relative
+    // error, so from there on they are formed in double (much cheaper than this format);
+    // the recurrence itself stays in Float. Shapes or x outside the range of double keep
+    // Float throughout.
+    const auto run = [&]<class T>(const FractionLevels<T>& at, Float first, Float tolerance) {
+        Float m = first;
+        for (; m < 200000; m += 2) {
+            T c, e;
+            at.At(T(m), c, e);
+            advance(c, e);
+            at.At(T(m + 1), c, e);
+            advance(c, e);
+            if (std::fabs(det) <= tolerance * std::fabs(A * prevB)) break;
+            if (std::fabs(B) > big) {
+                A *= shrink; B *= shrink; prevA *= shrink; prevB *= shrink;
+                det *= shrink * shrink;
+            }
         }
+        return m + 2;
+    };
+    if (a < 1e300L && b < 1e300L && x > 1e-290L) {
+        const Float next = run(levels, 2, 0x1p-10L);
+        run(levels.As<double>(), next, Epsilon / 2);
+    } else {
+        run(levels, 2, Epsilon / 2);
     }
     return (a + 1) * A / B;
 }
