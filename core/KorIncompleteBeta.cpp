@@ -11,8 +11,9 @@
 // a ln x + b ln(1 - x) - ln B(a, b) is formed in two Floats (1 - x with its rounding
 // error) and exponentiated once, so deep tails keep full precision.
 //
-// Measured against 60-digit references: for a, b in [0.5, 100] at most 15 ulps, tails
-// down to 1e-300 included; for a, b up to 1e4 at most 13 ulps (results above 1e-300).
+// Measured against 60-digit references: at most 16 ulps for a, b in [0.5, 100] and for
+// a, b up to 1e4, tails down to 1e-300 included. Far larger shapes lose accuracy: the
+// continued fraction needs about sqrt(max(a, b)) levels and stops at 2e5.
 // The inverse comes within 1e-18 relative of the exact x for p in [1e-10, 1 - 1e-10],
 // a, b in [0.5, 100].
 //
