@@ -8,7 +8,7 @@
 namespace Platform {
 
 // Raises a failure: looks up the text of the identifier in the table in force at this
-// moment and throws E (EMathError unless the routine is specified to raise another
+// moment and throws E (EMathError unless the routine is documented to raise another
 // class) with exactly that text.
 template <class E = EMathError>
 [[noreturn]] void Raise(const ResourceString& resource) {
