@@ -117,6 +117,36 @@ TKorDeciles GetDeciles(const TKorFloatVector& X) {
 // ---- Mode and most frequent values --------------------------------------------------
 // Both walk the runs of SameFloat-equal neighbours; a run of one is never a candidate.
 
+namespace {
+
+// Walks the runs of neighbours that are the SameFloat in sorted X. Each run of more than
+// one element that ends inside the vector is judged against the longest so far: as long
+// gives onTie(value), longer gives onLonger(value) and becomes the longest (best). The
+// final run is left to the caller, whose rules for it differ; its length is returned.
+template <class OnTie, class OnLonger>
+std::int32_t WalkRuns(const TKorFloatVector& X, std::int32_t& best, OnTie onTie, OnLonger onLonger) {
+    std::int32_t run = 1;
+    best = 0;
+    for (std::int32_t i = 1; i < X.Length(); ++i) {
+        if (Kornummath::SameFloat(Float(X[i]), Float(X[i - 1]))) {
+            ++run;
+            continue;
+        }
+        if (run != 1) {
+            if (run == best) {
+                onTie(Float(X[i - 1]));
+            } else if (run > best) {
+                onLonger(Float(X[i - 1]));
+                best = run;
+            }
+        }
+        run = 1;
+    }
+    return run;
+}
+
+}  // namespace
+
 Boolean GetMode(const TKorFloatVector& X, Float& Mode) {
     RequireNotEmpty(X);
     const std::int32_t n = X.Length();
@@ -125,25 +155,15 @@ Boolean GetMode(const TKorFloatVector& X, Float& Mode) {
         return true;
     }
     Float mode = KorNoMode;
-    std::int32_t run = 1, best = 0;
     bool tied = false;
-    for (std::int32_t i = 1; i < n; ++i) {
-        if (Kornummath::SameFloat(Float(X[i]), Float(X[i - 1]))) {
-            ++run;
-            continue;
-        }
-        if (run != 1) {
-            if (run == best) {
-                tied = true;
-            } else if (run > best) {
-                mode = X[i - 1];
-                best = run;
-                tied = false;
-            }
-        }
-        run = 1;
-    }
-    // The final run, which the loop has not judged.
+    std::int32_t best;
+    const std::int32_t run = WalkRuns(
+        X, best, [&](Float) { tied = true; },
+        [&](Float value) {
+            mode = value;
+            tied = false;
+        });
+    // The final run.
     if (best < 1) {
         if (run > 1) {
             best = run;
@@ -172,22 +192,11 @@ TKorFloatVector GetMostFrequent(const TKorFloatVector& X) {
         result.SetLength(0);
         KornumVector::AppendValue2Vector(result, value);
     };
-    std::int32_t run = 1, best = 0;
-    for (std::int32_t i = 1; i < n; ++i) {
-        if (Kornummath::SameFloat(Float(X[i]), Float(X[i - 1]))) {
-            ++run;
-            continue;
-        }
-        if (run != 1) {
-            if (run == best) {
-                KornumVector::AppendValue2Vector(result, Float(X[i - 1]));
-            } else if (run > best) {
-                startWith(X[i - 1]);
-                best = run;
-            }
-        }
-        run = 1;
-    }
+    std::int32_t best;
+    const std::int32_t run = WalkRuns(
+        X, best, [&result](Float value) { KornumVector::AppendValue2Vector(result, value); },
+        startWith);
+    // The final run.
     if (best > 0) {
         if (run == best) {
             KornumVector::AppendValue2Vector(result, Float(X[n - 1]));
