@@ -104,10 +104,10 @@ void Run(benchmark::State& state, Statistic which, Compute compute) {
     state.SetItemsProcessed(state.iterations() * Size);
 }
 
-// ---- Float members against GSL's long double routines -------------------------------
+// ---- Our members and GSL's routines, one body each -----------------------------------
 
-void Ours_Float(benchmark::State& state) {
-    const auto& x = FloatVector();
+template <class Vector>
+void Ours(benchmark::State& state, const Vector& x) {
     const Statistic which = Statistic(state.range(0));
     Run(state, which, [&]() -> long double {
         switch (which) {
@@ -118,49 +118,27 @@ void Ours_Float(benchmark::State& state) {
     });
 }
 
+// GSL has no population routine: the sample variance rescaled, then its square root.
+// (Its long double routines return double.)
+template <class T>
+void Gsl(benchmark::State& state, const std::vector<T>& x, double (*mean)(const T*, size_t, size_t),
+         double (*variance)(const T*, size_t, size_t)) {
+    const Statistic which = Statistic(state.range(0));
+    Run(state, which, [&]() -> long double {
+        switch (which) {
+            case Mean: return mean(x.data(), 1, x.size());
+            case SampleVar: return variance(x.data(), 1, x.size());
+            default: return std::sqrt(variance(x.data(), 1, x.size()) * double(Size - 1) / double(Size));
+        }
+    });
+}
+
+void Ours_Float(benchmark::State& state) { Ours(state, FloatVector()); }
 void Gsl_LongDouble(benchmark::State& state) {
-    const auto& x = LongDoubles();
-    const Statistic which = Statistic(state.range(0));
-    Run(state, which, [&]() -> long double {
-        switch (which) {
-            case Mean: return gsl_stats_long_double_mean(x.data(), 1, x.size());
-            case SampleVar: return gsl_stats_long_double_variance(x.data(), 1, x.size());
-            default: {
-                const long double variance = gsl_stats_long_double_variance(x.data(), 1, x.size());
-                return std::sqrt(variance * (Size - 1) / Size);
-            }
-        }
-    });
+    Gsl(state, LongDoubles(), gsl_stats_long_double_mean, gsl_stats_long_double_variance);
 }
-
-// ---- Double members against GSL's double routines -----------------------------------
-
-void Ours_Double(benchmark::State& state) {
-    const auto& x = DoubleVector();
-    const Statistic which = Statistic(state.range(0));
-    Run(state, which, [&]() -> long double {
-        switch (which) {
-            case Mean: return KornumStatistics::KorMean(x);
-            case SampleVar: return KornumStatistics::SampleVariance(x);
-            default: return KornumStatistics::PopulationStdDev(x);
-        }
-    });
-}
-
-void Gsl_Double(benchmark::State& state) {
-    const auto& x = Values();
-    const Statistic which = Statistic(state.range(0));
-    Run(state, which, [&]() -> long double {
-        switch (which) {
-            case Mean: return gsl_stats_mean(x.data(), 1, x.size());
-            case SampleVar: return gsl_stats_variance(x.data(), 1, x.size());
-            default: {
-                const double variance = gsl_stats_variance(x.data(), 1, x.size());
-                return std::sqrt(variance * double(Size - 1) / double(Size));
-            }
-        }
-    });
-}
+void Ours_Double(benchmark::State& state) { Ours(state, DoubleVector()); }
+void Gsl_Double(benchmark::State& state) { Gsl(state, Values(), gsl_stats_mean, gsl_stats_variance); }
 
 // Argument: 0 mean, 1 sample variance, 2 population standard deviation.
 BENCHMARK(Ours_Float)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
