@@ -5,53 +5,33 @@ namespace {
 
 using namespace VectorTest;
 
-TEST(VectorResizing, AppendGrowsEmptyAndDetachesSharedStorage) {
+TEST(VectorResizing, InsertAndAppendGrowAndDetachSharedStorage) {
     TKorDoubleVector v;
     AppendValue2Vector(v, 1.5);
-    EXPECT_EQ(Elements(v), (std::vector<Double>{1.5}));
     TKorDoubleVector sharer = v;
     AppendValue2Vector(v, 2.5);
     EXPECT_EQ(Elements(v), (std::vector<Double>{1.5, 2.5}));
     EXPECT_EQ(Elements(sharer), (std::vector<Double>{1.5}));
-}
 
-TEST(VectorResizing, InsertShiftsUpAndBadIndexesAppend) {
-    TKorLIntVector empty;
+    TKorLIntVector empty, w{1, 2, 3};
     AddValue2Vector(empty, 7, 0);
     EXPECT_EQ(Elements(empty), (std::vector<Integer>{7}));
-
-    TKorLIntVector v{1, 2, 3};
-    AddValue2Vector(v, 9, 1);
-    EXPECT_EQ(Elements(v), (std::vector<Integer>{1, 9, 2, 3}));
-    AddValue2Vector(v, 0, 0);
-    EXPECT_EQ(Elements(v), (std::vector<Integer>{0, 1, 9, 2, 3}));
-
-    TKorLIntVector w{1, 2, 3};
-    AddValue2Vector(w, 9, 3);  // Index = n appends
-    AddValue2Vector(w, 8, -1);
-    AddValue2Vector(w, 7, 100);
-    EXPECT_EQ(Elements(w), (std::vector<Integer>{1, 2, 3, 9, 8, 7}));
-
+    // Inserts shift up; an index of n, below 0 or beyond n appends.
+    for (auto [value, index] : {std::pair{9, 1}, {0, 0}, {4, 5}, {8, -1}, {6, 100}})
+        AddValue2Vector(w, value, index);
+    EXPECT_EQ(Elements(w), (std::vector<Integer>{0, 1, 9, 2, 3, 4, 8, 6}));
     TKorFloatVector f{1.0L, 2.0L};
     AddValue2Vector(f, 0.25L, 1);
     EXPECT_EQ(Elements(f), (std::vector<Float>{1.0L, 0.25L, 2.0L}));
 }
 
 TEST(VectorResizing, DeleteShiftsDownReleasesLastAndIgnoresBadIndexes) {
+    TKorLWordVector v{1, 2, 3, 4};
+    for (Integer index : {5, -1, 0, 4, 2}) DeleteValueFromVector(v, index);
+    EXPECT_EQ(Elements(v), (std::vector<Cardinal>{2, 3}));
     TKorInt64Vector one{5};
     DeleteValueFromVector(one, 0);
-    EXPECT_TRUE(one.IsEmpty());
     EXPECT_EQ(one.High(), -1);
-
-    TKorLWordVector v{1, 2, 3};
-    DeleteValueFromVector(v, 5);
-    DeleteValueFromVector(v, -1);
-    EXPECT_EQ(Elements(v), (std::vector<Cardinal>{1, 2, 3}));
-    DeleteValueFromVector(v, 0);
-    EXPECT_EQ(Elements(v), (std::vector<Cardinal>{2, 3}));
-    DeleteValueFromVector(v, 1);
-    EXPECT_EQ(Elements(v), (std::vector<Cardinal>{2}));
-
     TKorSingleVector empty;
     DeleteValueFromVector(empty, 0);
     EXPECT_TRUE(empty.IsEmpty());
@@ -79,7 +59,6 @@ TYPED_TEST(VectorFilling, CopySharesNothingAndConvertsToFloatExactly) {
     using E = TypeParam;
     const TKorVector<E> v = Make<E>({1, 100, 3});
     TKorVector<E> copy = CopyVector(v);
-    EXPECT_FALSE(copy.SharesWith(v));
     copy[0] = E(ValueOf<E>(9));
     EXPECT_EQ(Elements(v), (std::vector<ValueOf<E>>{1, 100, 3}));
     EXPECT_EQ(Elements(Vector2FloatVector(v)), (std::vector<Float>{1, 100, 3}));
@@ -101,12 +80,12 @@ TEST(VectorConversion, WideningFollowsTheSourceSignedness) {
 
 TEST(VectorConversion, RawArraysAreGivenByFirstElementAndLastIndex) {
     const Cardinal cardinals[] = {4294967295u, 1, 2};
+    const ShortInt shorts[] = {-1, 5};
+    const Float floats[] = {0.5L};
     EXPECT_EQ(Elements(Array2FloatVector(cardinals, 1)), (std::vector<Float>{4294967295.0L, 1}));
     EXPECT_EQ(Elements(Array2Int64Vector(cardinals, 2)), (std::vector<Int64>{4294967295, 1, 2}));
-    const ShortInt shorts[] = {-1, 5};
     EXPECT_EQ(Elements(Array2LIntVector(shorts, 1)), (std::vector<Integer>{-1, 5}));
     EXPECT_EQ(Elements(Array2Int64Vector(shorts, 0)), (std::vector<Int64>{-1}));
-    const Float floats[] = {0.5L};
     EXPECT_EQ(Elements(Array2FloatVector(floats, 0)), (std::vector<Float>{0.5L}));
     EXPECT_TRUE(Array2FloatVector(floats, -1).IsEmpty());
 }

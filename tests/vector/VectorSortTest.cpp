@@ -32,32 +32,26 @@ TYPED_TEST(VectorSorting, MatchesTheStandardSortOnRandomDataWithDuplicates) {
     }
 }
 
-TYPED_TEST(VectorSorting, ReverseMakesANewVector) {
+TYPED_TEST(VectorSorting, ReverseMakesANewVectorAndRanksShareTheLowestPosition) {
     using E = TypeParam;
-    const TKorVector<E> v = Make<E>({1, 2, 3});
-    TKorVector<E> r = ReverseVector(v);
-    EXPECT_EQ(Elements(r), (std::vector<ValueOf<E>>{3, 2, 1}));
-    r[0] = E(ValueOf<E>(9));
-    EXPECT_EQ(Elements(v), (std::vector<ValueOf<E>>{1, 2, 3}));
-    EXPECT_TRUE(ReverseVector(TKorVector<E>()).IsEmpty());
-}
+    const TKorVector<E> v = Make<E>({10, 20, 10, 30}), w = Make<E>({5, 7, 9}), empty;
+    TKorVector<E> r = ReverseVector(w);
+    r[0] = E(ValueOf<E>(1));
+    EXPECT_EQ(Elements(r), (std::vector<ValueOf<E>>{1, 7, 5}));
+    EXPECT_TRUE(ReverseVector(empty).IsEmpty());
 
-TYPED_TEST(VectorSorting, RanksShareTheLowestPositionOfTheirValue) {
-    using E = TypeParam;
-    const TKorVector<E> v = Make<E>({10, 20, 10, 30});
     EXPECT_EQ(Elements(Vector2RankVector(v, true)), (std::vector<Integer>{0, 2, 0, 3}));
     EXPECT_EQ(Elements(Vector2RankVector(v, false)), (std::vector<Integer>{2, 1, 2, 0}));
-    EXPECT_TRUE(Vector2RankVector(TKorVector<E>(), true).IsEmpty());
-
-    const TKorVector<E> w = Make<E>({5, 7, 9});
+    EXPECT_TRUE(Vector2RankVector(empty, true).IsEmpty());
     EXPECT_EQ(Vector2Rank(w, 3, true), -1);
     EXPECT_EQ(Vector2Rank(w, 2, false), 0);
     EXPECT_EQ(Vector2Rank(w, 0, false), 2);
-    EXPECT_EQ(Vector2Rank(TKorVector<E>(), 0, true), -1);
+    EXPECT_EQ(Vector2Rank(empty, 0, true), -1);
     EXPECT_EQ(Vector2RankValue(w, ValueOf<E>(7), true), 1);
     EXPECT_EQ(Vector2RankValue(w, ValueOf<E>(8), true), -1);
-    EXPECT_EQ(Vector2RankValue(TKorVector<E>(), ValueOf<E>(8), true), -1);
+    EXPECT_EQ(Vector2RankValue(empty, ValueOf<E>(8), true), -1);
     EXPECT_EQ(Elements(v), (std::vector<ValueOf<E>>{10, 20, 10, 30}));  // untouched
+    EXPECT_EQ(Elements(w), (std::vector<ValueOf<E>>{5, 7, 9}));
 }
 
 // ---- The fast ranking against the plain walk -------------------------------------------
@@ -67,12 +61,11 @@ template <class E>
 Integer PlainRank(const TKorVector<E>& sorted, ValueOf<E> x) {
     for (Integer p = 0; p < sorted.Length(); ++p) {
         const ValueOf<E> y = sorted[p];
-        bool same;
-        if constexpr (std::is_integral_v<ValueOf<E>>)
-            same = y == x;
-        else
-            same = Kornummath::SameFloat(y, x);
-        if (same) return p;
+        if constexpr (std::is_integral_v<ValueOf<E>>) {
+            if (y == x) return p;
+        } else if (Kornummath::SameFloat(y, x)) {
+            return p;
+        }
     }
     return -1;
 }

@@ -1,0 +1,66 @@
+// Helpers shared by every test program: the exact-failure check and a scoped tolerance.
+#pragma once
+
+#include <kornum/Kornumglobals.h>
+#include <kornum/Platform.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <initializer_list>
+#include <sstream>
+#include <string>
+#include <typeinfo>
+#include <utility>
+
+namespace KornumTest {
+
+// call must raise exactly class E (not a subclass or base) carrying exactly text.
+template <class E = Platform::EMathError, class Call>
+::testing::AssertionResult Raises(Call&& call, const std::string& text) {
+    try {
+        call();
+    } catch (const Platform::Exception& error) {
+        if (typeid(error) != typeid(E))
+            return ::testing::AssertionFailure() << "raised another class: " << error.Message();
+        if (error.Message() == text) return ::testing::AssertionSuccess();
+        return ::testing::AssertionFailure() << "raised \"" << error.Message() << "\", expected \"" << text << "\"";
+    }
+    return ::testing::AssertionFailure() << "raised nothing, expected \"" << text << "\"";
+}
+
+template <class E = Platform::EMathError, class Call>
+::testing::AssertionResult Raises(Call&& call, const Platform::ResourceString& message) {
+    return Raises<E>(call, message.Text());
+}
+
+// Each pair is (computed, expected), equal or within tolerance; every mismatch is named by
+// its position in the list.
+inline ::testing::AssertionResult AllMatch(
+    std::initializer_list<std::pair<Kornumglobals::Float, Kornumglobals::Float>> pairs,
+    Kornumglobals::Float tolerance = 0) {
+    std::ostringstream mismatches;
+    mismatches.precision(21);
+    int position = 0;
+    for (const auto& [computed, expected] : pairs) {
+        if (!(computed == expected || std::fabs(computed - expected) <= tolerance))
+            mismatches << " #" << position << ": " << computed << " != " << expected << ";";
+        ++position;
+    }
+    if (mismatches.str().empty()) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "mismatches:" << mismatches.str();
+}
+
+// Sets KorTolerance for one scope and restores it afterwards.
+class ToleranceScope {
+public:
+    explicit ToleranceScope(Kornumglobals::Float tolerance) : saved_(Kornumglobals::KorTolerance) {
+        Kornumglobals::KorTolerance = tolerance;
+    }
+    ~ToleranceScope() { Kornumglobals::KorTolerance = saved_; }
+
+private:
+    Kornumglobals::Float saved_;
+};
+
+}  // namespace KornumTest
