@@ -1,28 +1,22 @@
 // The tolerant comparisons agree with each other and follow KorTolerance.
-#include <kornum/Kornummath.h>
+#include "TestSupport.h"
 
-#include <gtest/gtest.h>
+#include <kornum/Kornummath.h>
 
 #include <cmath>
 #include <limits>
 #include <random>
 
 using namespace Kornummath;
-using Kornumglobals::KorTolerance;
+using KornumTest::ToleranceScope;
 
 namespace {
 
-// Sets KorTolerance for one test and restores it afterwards.
-class Tolerance : public ::testing::Test {
-protected:
-    void TearDown() override { KorTolerance = Kornumglobals::KorDefaultTolerance; }
-};
-
-TEST_F(Tolerance, EveryValueIsExactlyOneOfZeroPositiveNegative) {
+TEST(Tolerance, EveryValueIsExactlyOneOfZeroPositiveNegative) {
     std::mt19937_64 random(7);
     std::uniform_real_distribution<double> exponent(-40, 5);
     for (Float tolerance : {1e-15L, 1e-6L, 0.25L}) {
-        KorTolerance = tolerance;
+        ToleranceScope scope(tolerance);
         for (int i = 0; i < 20000; ++i) {
             const Float magnitude = std::pow(10.0L, Float(exponent(random)));
             const Float x = (i % 2 ? -magnitude : magnitude);
@@ -35,8 +29,8 @@ TEST_F(Tolerance, EveryValueIsExactlyOneOfZeroPositiveNegative) {
     }
 }
 
-TEST_F(Tolerance, ZeroTestIsAbsoluteAndInclusive) {
-    KorTolerance = 1e-10L;
+TEST(Tolerance, ZeroTestIsAbsoluteAndInclusive) {
+    ToleranceScope scope(1e-10L);
     EXPECT_TRUE(FloatIsZero(1e-10L));
     EXPECT_TRUE(FloatIsZero(-1e-10L));
     EXPECT_FALSE(FloatIsZero(std::nextafter(1e-10L, 1.0L)));
@@ -45,8 +39,8 @@ TEST_F(Tolerance, ZeroTestIsAbsoluteAndInclusive) {
     EXPECT_TRUE(FloatIsNegative(-2e-10L));
 }
 
-TEST_F(Tolerance, SameFloatIsRelativeAboveOneAndAbsoluteBelow) {
-    KorTolerance = 1e-12L;
+TEST(Tolerance, SameFloatIsRelativeAboveOneAndAbsoluteBelow) {
+    ToleranceScope scope(1e-12L);
     EXPECT_TRUE(SameFloat(1e6L, 1e6L + 0.9e-6L));    // 0.9e-12 relative
     EXPECT_FALSE(SameFloat(1e6L, 1e6L + 1.1e-6L));   // 1.1e-12 relative
     EXPECT_TRUE(SameFloat(1e-3L, 1e-3L + 0.9e-12L)); // absolute below 1
@@ -57,7 +51,7 @@ TEST_F(Tolerance, SameFloatIsRelativeAboveOneAndAbsoluteBelow) {
     EXPECT_FALSE(SameFloat(std::nanl(""), std::nanl("")));
 }
 
-TEST_F(Tolerance, NarrowWidthsHaveAFloorAtTheirOwnPrecision) {
+TEST(Tolerance, NarrowWidthsHaveAFloorAtTheirOwnPrecision) {
     // Neighbouring doubles and singles are the same at the default tolerance; Float
     // neighbours farther apart than the tolerance are not.
     EXPECT_TRUE(SameFloat(0.1, std::nextafter(0.1, 1.0)));
@@ -66,7 +60,7 @@ TEST_F(Tolerance, NarrowWidthsHaveAFloorAtTheirOwnPrecision) {
     EXPECT_FALSE(SameFloat(1.0f, 1.0f + 4e-6f));
     EXPECT_FALSE(SameFloat(1.0L, 1.0L + 2e-15L));
     // A tolerance above the floor applies to every width.
-    KorTolerance = 1e-3L;
+    ToleranceScope scope(1e-3L);
     EXPECT_TRUE(SameFloat(1.0, 1.0009));
     EXPECT_TRUE(SameFloat(1.0f, 1.0009f));
     EXPECT_FALSE(SameFloat(1.0, 1.0011));
