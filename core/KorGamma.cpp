@@ -16,7 +16,7 @@
 #include <cmath>
 #include <limits>
 
-#include "KorSpecialSupport.h"
+#include "KorGammaSupport.h"
 
 namespace Kornummath {
 

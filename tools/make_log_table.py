@@ -7,7 +7,7 @@ ln(j / 32) for j = 24 .. 48 (the reduction points covering [0.75, 1.5]), j / 32
 (exact) and 32 / j rounded to one Float. ln 2 is split with a 40-bit hi part so that k * hi is exact for
 any binary exponent k of a Float; ln sqrt(2 pi) and pi are split plainly.
 
-Run from the repository root and paste the output:  python3 tools/make_special_log_table.py
+Run from the repository root and paste the output:  python3 tools/make_log_table.py
 """
 import mpmath as mp
 

@@ -67,7 +67,7 @@ inline TwoFloat operator*(TwoFloat x, TwoFloat y) {
     return FastTwoSum(p.hi, p.lo + (x.hi * y.lo + x.lo * y.hi));
 }
 
-// ---- Constants (tools/make_special_log_table.py) -----------------------------------
+// ---- Constants (tools/make_log_table.py) -----------------------------------
 
 struct LogTableEntry {
     TwoFloat log;   // ln(j / 32)
