@@ -1,11 +1,9 @@
 // Median, quartiles, deciles, mode, most frequent values and trimmed means of sorted
 // samples.
+#include "StatisticsTestSupport.h"
+
 #include <kornum/KornumStatistics.h>
 #include <kornum/Kornum_RS_Math.h>
-
-#include "SampleTestSupport.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <tuple>
@@ -15,7 +13,7 @@
 using namespace KornumStatistics;
 using namespace Kornumglobals;
 using namespace Kornum_RS_Math;
-using SampleTestSupport::RaisesMath;
+using namespace StatisticsTest;
 
 namespace {
 
@@ -25,37 +23,34 @@ using SixVectors = ::testing::Types<TKorFloatVector, TKorDoubleVector, TKorSingl
                                     TKorInt64Vector, TKorLWordVector, TKorLIntVector>;
 TYPED_TEST_SUITE(OrderMembers, SixVectors);
 
-TYPED_TEST(OrderMembers, Median) {
-    EXPECT_EQ(GetMedian(TypeParam{7}), 7.0L);
-    EXPECT_EQ(GetMedian(TypeParam{1, 2, 3, 4}), 2.5L);
-    EXPECT_EQ(GetMedian(TypeParam{1, 5, 9}), 5.0L);
-    EXPECT_EQ(GetMedian(TypeParam{3, 1, 2}), 1.0L);  // unsorted: the middle element
-    EXPECT_TRUE(RaisesMath([] { GetMedian(TypeParam{}); }, rsVectorIsEmpty));
-}
-
-TYPED_TEST(OrderMembers, TrimmedMeans) {
+TYPED_TEST(OrderMembers, MedianAndTrimmedMeans) {
     const TypeParam X{1, 2, 3, 4, 5, 6, 7, 8, 9, 100};
-    EXPECT_EQ(TrimmedMean(X, 0), 14.5L);            // plain mean
-    EXPECT_EQ(TrimmedMean(X, 0.125L), 5.5L);        // 1 off each end: 2 .. 9
-    EXPECT_EQ(ExcelTrimmedMean(X, 0.25L), 5.5L);    // Trunc(2.5) div 2 = 1 off each end
-    EXPECT_EQ(ExcelTrimmedMean(X, 1.0L), 5.5L);     // median
-    EXPECT_EQ(TrimmedMean(TypeParam{1, 2, 10, 20}, 0.49L), 6.0L);  // k = 1: X[1], X[2]
-    EXPECT_EQ(ExcelTrimmedMean(X, 0.6L), 5.5L);     // accepted by the Excel reading only
-    EXPECT_TRUE(RaisesMath([&] { TrimmedMean(X, 0.6L); }, rsInvalidValue));
-    EXPECT_TRUE(RaisesMath([&] { ExcelTrimmedMean(X, 1.2L); }, rsInvalidValue));
-    EXPECT_TRUE(RaisesMath([&] { TrimmedMean(X, std::nanl("")); }, rsInvalidValue));
+    EXPECT_TRUE(AllMatch({
+        {GetMedian(TypeParam{7}), 7}, {GetMedian(TypeParam{1, 2, 3, 4}), 2.5L}, {GetMedian(TypeParam{1, 5, 9}), 5},
+        {GetMedian(TypeParam{3, 1, 2}), 1},  // unsorted: the middle element
+        {TrimmedMean(X, 0), 14.5L},          // plain mean
+        {TrimmedMean(X, 0.125L), 5.5L},      // 1 off each end: 2 .. 9
+        {ExcelTrimmedMean(X, 0.25L), 5.5L},  // Trunc(2.5) div 2 = 1 off each end
+        {ExcelTrimmedMean(X, 1.0L), 5.5L},   // median
+        {TrimmedMean(TypeParam{1, 2, 10, 20}, 0.49L), 6},  // k = 1: X[1], X[2]
+        {ExcelTrimmedMean(X, 0.6L), 5.5L},   // accepted by the Excel reading only
+    }));
+    EXPECT_TRUE(Raises([] { GetMedian(TypeParam{}); }, rsVectorIsEmpty));
+    EXPECT_TRUE(Raises([&] { TrimmedMean(X, 0.6L); }, rsInvalidValue));
+    EXPECT_TRUE(Raises([&] { ExcelTrimmedMean(X, 1.2L); }, rsInvalidValue));
+    EXPECT_TRUE(Raises([&] { TrimmedMean(X, std::nanl("")); }, rsInvalidValue));
     // Alpha is checked before the length; the shortcuts report through their delegate.
-    EXPECT_TRUE(RaisesMath([] { TrimmedMean(TypeParam{}, 0.7L); }, rsInvalidValue));
-    EXPECT_TRUE(RaisesMath([] { TrimmedMean(TypeParam{}, 0.2L); }, rsVectorIsEmpty));
-    EXPECT_TRUE(RaisesMath([] { ExcelTrimmedMean(TypeParam{}, 1); }, rsVectorIsEmpty));
+    EXPECT_TRUE(Raises([] { TrimmedMean(TypeParam{}, 0.7L); }, rsInvalidValue));
+    EXPECT_TRUE(Raises([] { TrimmedMean(TypeParam{}, 0.2L); }, rsVectorIsEmpty));
+    EXPECT_TRUE(Raises([] { ExcelTrimmedMean(TypeParam{}, 1); }, rsVectorIsEmpty));
 }
 
 TEST(TrimmedMean, ToleranceAtTheShortcutsButExactRange) {
     const TKorFloatVector X{1, 2, 3, 10};
-    EXPECT_EQ(TrimmedMean(X, -1e-17L), 4.0L);         // zero within tolerance: the mean
-    EXPECT_EQ(TrimmedMean(X, 0.5L + 1e-17L), 2.5L);  // one half within tolerance: the median
-    EXPECT_TRUE(RaisesMath([&] { TrimmedMean(X, 0.5L + 1e-12L); }, rsInvalidValue));
-    EXPECT_EQ(ExcelTrimmedMean(X, 1.0L + 1e-17L), 2.5L);
+    // Zero and one half within tolerance take the mean and the median.
+    EXPECT_TRUE(AllMatch({{TrimmedMean(X, -1e-17L), 4}, {TrimmedMean(X, 0.5L + 1e-17L), 2.5L},
+                          {ExcelTrimmedMean(X, 1.0L + 1e-17L), 2.5L}}));
+    EXPECT_TRUE(Raises([&] { TrimmedMean(X, 0.5L + 1e-12L); }, rsInvalidValue));
 }
 
 TEST(Quartiles, PlusOneHalfPositions) {
@@ -74,7 +69,7 @@ TEST(Quartiles, PlusOneHalfPositions) {
         EXPECT_EQ(third, q3);
     }
     Float q1 = -5, q3 = -5;
-    EXPECT_TRUE(RaisesMath([&] { GetQuartiles(TKorFloatVector{}, q1, q3); }, rsVectorIsEmpty));
+    EXPECT_TRUE(Raises([&] { GetQuartiles(TKorFloatVector{}, q1, q3); }, rsVectorIsEmpty));
     EXPECT_EQ(q1, -5.0L);  // untouched
     EXPECT_EQ(q3, -5.0L);
 }
@@ -83,20 +78,13 @@ TEST(Deciles, PlusOneHalfPositions) {
     TKorFloatVector ten;
     ten.SetLength(10);
     for (Integer i = 0; i < 10; ++i) ten[i] = Float(10 * (i + 1));  // 10, 20, .. 100
-    const TKorDeciles d = GetDeciles(ten);
-    EXPECT_EQ(d[1], 15.0L);  // p = 1.5
-    EXPECT_EQ(d[5], 55.0L);  // p = 5.5: the mean of X[4] and X[5]
-    EXPECT_EQ(d[9], 95.0L);  // p = 9.5
-
-    const TKorDeciles one = GetDeciles(TKorFloatVector{3});
-    for (int i = 1; i <= 9; ++i) EXPECT_EQ(one[i], 3.0L);
-
-    // Two values: p = 0.7 for D1 lies before the first element, which it takes.
-    const TKorDeciles two = GetDeciles(TKorFloatVector{1, 2});
-    EXPECT_EQ(two[1], 1.0L);
-    EXPECT_EQ(two[5], 1.5L);  // p = 1.5
-    EXPECT_EQ(two[9], 2.0L);  // p = 2.3: the last element
-    EXPECT_TRUE(RaisesMath([] { GetDeciles(TKorFloatVector{}); }, rsVectorIsEmpty));
+    const TKorDeciles d = GetDeciles(ten), one = GetDeciles(TKorFloatVector{3}),
+                      two = GetDeciles(TKorFloatVector{1, 2});
+    // Ten values: p = 1.5, 5.5 (the mean of X[4] and X[5]), 9.5. Two values: p = 0.7 for
+    // D1 lies before the first element, which it takes; p = 1.5; p = 2.3, the last one.
+    EXPECT_TRUE(AllMatch({{d[1], 15}, {d[5], 55}, {d[9], 95}, {two[1], 1}, {two[5], 1.5L}, {two[9], 2},
+                          {one[1], 3}, {one[5], 3}, {one[9], 3}}));
+    EXPECT_TRUE(Raises([] { GetDeciles(TKorFloatVector{}); }, rsVectorIsEmpty));
 }
 
 TEST(Mode, RunsOfSameFloatNeighbours) {
@@ -122,7 +110,7 @@ TEST(Mode, RunsOfSameFloatNeighbours) {
     }
     EXPECT_EQ(KorNoMode, -1.1e4932L);
     Float mode = 4;
-    EXPECT_TRUE(RaisesMath([&] { GetMode(TKorFloatVector{}, mode); }, rsVectorIsEmpty));
+    EXPECT_TRUE(Raises([&] { GetMode(TKorFloatVector{}, mode); }, rsVectorIsEmpty));
     EXPECT_EQ(mode, 4.0L);
 }
 
@@ -142,7 +130,7 @@ TEST(MostFrequent, TiesInAscendingOrderAndTheFinalRunQuirk) {
         const TKorFloatVector result = GetMostFrequent(x);
         EXPECT_EQ(List(result.begin(), result.end()), expected) << double(x[0]);
     }
-    EXPECT_TRUE(RaisesMath([] { GetMostFrequent(TKorFloatVector{}); }, rsVectorIsEmpty));
+    EXPECT_TRUE(Raises([] { GetMostFrequent(TKorFloatVector{}); }, rsVectorIsEmpty));
 }
 
 }  // namespace
