@@ -1,11 +1,13 @@
 // String lists, component ownership and the text form of components.
+#include "TestSupport.h"
+
 #include <kornum/PlatformStreaming.h>
 
-#include <gtest/gtest.h>
-
 #include <string>
+#include <type_traits>
 
 using namespace Platform;
+using KornumTest::Raises;
 
 namespace {
 
@@ -40,12 +42,7 @@ TEST(StringList, BehavesAsAnOrderedListOfLines) {
 TEST(StringList, RefusesToTakeAnUnrelatedObject) {
     TStringList list;
     TComponent component(nullptr);
-    try {
-        list.Assign(component);
-        FAIL() << "assigned";
-    } catch (const EConvertError& error) {
-        EXPECT_EQ(error.Message(), "Cannot assign a TComponent to a TStringList");
-    }
+    EXPECT_TRUE(Raises<EConvertError>([&] { list.Assign(component); }, "Cannot assign a TComponent to a TStringList"));
 }
 
 // Counts the live instances, to see that owners free what they own.
@@ -77,7 +74,7 @@ struct Sample : TComponent {
     long double level = 0.5L;
     bool active = false;
     std::string label;
-    TStringList lines;
+    std::vector<std::string> lines;
     int loadedCalls = 0;
     bool loadingWhileReading = false;
 
@@ -87,41 +84,30 @@ struct Sample : TComponent {
         TComponent::Loaded();
         ++loadedCalls;
     }
+    // A stored property held in member M; setting it notes whether loading was under way.
+    template <auto M>
+    static TPropertyInfo Stored(const char* name, TPropertyType type, TPropertyValue byDefault) {
+        return {name, type, true, std::move(byDefault),
+                [](const TComponent& c) { return TPropertyValue(static_cast<const Sample&>(c).*M); },
+                [](TComponent& c, const TPropertyValue& v) {
+                    auto& sample = static_cast<Sample&>(c);
+                    sample.*M = std::get<std::remove_reference_t<decltype(sample.*M)>>(v);
+                    sample.loadingWhileReading = sample.Loading();
+                }};
+    }
     std::span<const TPropertyInfo> PublishedProperties() const override {
         static const TPropertyInfo properties[] = {
-            {"Count", TPropertyType::Integer, true, std::int64_t(3),
-             [](const TComponent& c) { return TPropertyValue(S(c).count); },
-             [](TComponent& c, const TPropertyValue& v) {
-                 S(c).count = std::get<std::int64_t>(v);
-                 S(c).loadingWhileReading = c.Loading();
-             }},
-            {"Level", TPropertyType::Float, true, 0.5L,
-             [](const TComponent& c) { return TPropertyValue(S(c).level); },
-             [](TComponent& c, const TPropertyValue& v) { S(c).level = std::get<long double>(v); }},
-            {"Active", TPropertyType::Boolean, true, false,
-             [](const TComponent& c) { return TPropertyValue(S(c).active); },
-             [](TComponent& c, const TPropertyValue& v) { S(c).active = std::get<bool>(v); }},
-            {"Label", TPropertyType::Text, true, std::string(),
-             [](const TComponent& c) { return TPropertyValue(S(c).label); },
-             [](TComponent& c, const TPropertyValue& v) { S(c).label = std::get<std::string>(v); }},
-            {"Lines", TPropertyType::Strings, true, std::vector<std::string>{},
-             [](const TComponent& c) {
-                 std::vector<std::string> lines;
-                 for (int i = 0; i < S(c).lines.Count(); ++i) lines.push_back(S(c).lines[i]);
-                 return TPropertyValue(lines);
-             },
-             [](TComponent& c, const TPropertyValue& v) {
-                 S(c).lines.Clear();
-                 for (const auto& line : std::get<std::vector<std::string>>(v)) S(c).lines.Add(line);
-             }},
+            Stored<&Sample::count>("Count", TPropertyType::Integer, std::int64_t(3)),
+            Stored<&Sample::level>("Level", TPropertyType::Float, 0.5L),
+            Stored<&Sample::active>("Active", TPropertyType::Boolean, false),
+            Stored<&Sample::label>("Label", TPropertyType::Text, std::string()),
+            Stored<&Sample::lines>("Lines", TPropertyType::Strings, std::vector<std::string>{}),
             {"Derived", TPropertyType::Integer, false, std::int64_t(0),
-             [](const TComponent& c) { return TPropertyValue(S(c).count * 2); },
+             [](const TComponent& c) { return TPropertyValue(static_cast<const Sample&>(c).count * 2); },
              [](TComponent&, const TPropertyValue&) {}},
         };
         return properties;
     }
-    static Sample& S(TComponent& c) { return static_cast<Sample&>(c); }
-    static const Sample& S(const TComponent& c) { return static_cast<const Sample&>(c); }
 };
 
 TEST(TextForm, WritesOnlyStoredPropertiesThatDifferFromTheirDefaults) {
@@ -130,8 +116,7 @@ TEST(TextForm, WritesOnlyStoredPropertiesThatDifferFromTheirDefaults) {
     sample.SetName("First");
     sample.level = 0.1L;
     sample.label = "say \"hi\"\\";
-    sample.lines.Add("1.5");
-    sample.lines.Add("a, b");
+    sample.lines = {"1.5", "a, b"};
     EXPECT_EQ(WriteComponentText(sample),
               "TSample First\n"
               "  Level = 0.1\n"
@@ -147,7 +132,7 @@ TEST(TextForm, ReadsBackEveryValueAndEndsWithLoaded) {
     original.level = 1.0L / 3;  // needs all 64 bits to read back
     original.active = true;
     original.label = "tab\there";
-    original.lines.SetText("x\ny\n");
+    original.lines = {"x", "y"};
 
     Sample copy(nullptr);
     ReadComponentText(copy, WriteComponentText(original));
@@ -156,7 +141,7 @@ TEST(TextForm, ReadsBackEveryValueAndEndsWithLoaded) {
     EXPECT_EQ(copy.level, 1.0L / 3);
     EXPECT_TRUE(copy.active);
     EXPECT_EQ(copy.label, "tab\there");
-    EXPECT_EQ(copy.lines.Text(), "x\ny\n");
+    EXPECT_EQ(copy.lines, (std::vector<std::string>{"x", "y"}));
     EXPECT_TRUE(copy.loadingWhileReading);
     EXPECT_FALSE(copy.Loading());
     EXPECT_EQ(copy.loadedCalls, 1);
@@ -164,23 +149,20 @@ TEST(TextForm, ReadsBackEveryValueAndEndsWithLoaded) {
 
 TEST(TextForm, RejectsWhatItCannotRead) {
     Sample sample(nullptr);
-    const auto fails = [&](const std::string& text, const std::string& message) {
-        try {
-            ReadComponentText(sample, text);
-            ADD_FAILURE() << "read: " << text;
-        } catch (const EReadError& error) {
-            EXPECT_EQ(error.Message(), message);
-        }
-        EXPECT_FALSE(sample.Loading());
+    const std::pair<const char*, const char*> cases[] = {
+        {"TOther\nend\n", "The text holds a TOther, not a TSample"},
+        {"TSample\n  Count = 1\n", "A component text starts with its class and ends with 'end'"},
+        {"TSample\n  Derived = 4\nend\n", "Line 2: TSample has no stored property 'Derived'"},
+        {"TSample\n  Colour = 4\nend\n", "Line 2: TSample has no stored property 'Colour'"},
+        {"TSample\n  Count = many\nend\n", "Line 2: a number was expected"},
+        {"TSample\n  Active = yes\nend\n", "Line 2: true or false was expected"},
+        {"TSample\n  Lines = [\"a\"\nend\n", "Line 2: the list has no closing bracket"},
+        {"TSample\n  Count 4\nend\n", "Line 2: 'Name = value' expected"},
     };
-    fails("TOther\nend\n", "The text holds a TOther, not a TSample");
-    fails("TSample\n  Count = 1\n", "A component text starts with its class and ends with 'end'");
-    fails("TSample\n  Derived = 4\nend\n", "Line 2: TSample has no stored property 'Derived'");
-    fails("TSample\n  Colour = 4\nend\n", "Line 2: TSample has no stored property 'Colour'");
-    fails("TSample\n  Count = many\nend\n", "Line 2: a number was expected");
-    fails("TSample\n  Active = yes\nend\n", "Line 2: true or false was expected");
-    fails("TSample\n  Lines = [\"a\"\nend\n", "Line 2: the list has no closing bracket");
-    fails("TSample\n  Count 4\nend\n", "Line 2: 'Name = value' expected");
+    for (const auto& [text, message] : cases) {
+        EXPECT_TRUE(Raises<EReadError>([&] { ReadComponentText(sample, text); }, message)) << text;
+        EXPECT_FALSE(sample.Loading());
+    }
     EXPECT_EQ(sample.loadedCalls, 0);  // a failed read does not finish loading
 }
 

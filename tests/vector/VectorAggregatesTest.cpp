@@ -55,37 +55,30 @@ TEST(VectorSums, IntegerSumsAndSquaresKeepTheirDeliberateWidths) {
     const Int64 two32 = Int64(1) << 32;
     EXPECT_TRUE(AllMatch({
         // Sums widen by signedness and wrap in 64 bits.
-        {SumVector(TKorByteVector{255, 255}), 510},
-        {SumVector(TKorSIntVector{-128, -128}), -256},
+        {SumVector(TKorByteVector{255, 255}), 510}, {SumVector(TKorSIntVector{-128, -128}), -256},
         {SumVector(TKorLWordVector{4294967295u, 1}), 4294967296.0L},
         {SumVector(TKorLIntVector{-2147483647 - 1, -1}), -2147483649.0L},
         {SumVector(TKorInt64Vector{std::numeric_limits<Int64>::max(), 1}), -9223372036854775808.0L},
         // Squares keep 16 bits for the byte and word members, 32 for the wider ones.
-        {SumSqVector(TKorByteVector{200}), -25536},   // 40000 read as int16
-        {SumSqVector(TKorByteVector{181}), 32761},    // still positive
-        {SumSqVector(TKorByteVector{182}), -32412},   // 33124 - 65536
-        {SumSqVector(TKorSIntVector{-128}), 16384},
-        {SumSqVector(TKorWordVector{300}), 24464},    // 90000 mod 65536
-        {SumSqVector(TKorSmallIntVector{300}), 24464},
-        {SumSqVector(TKorSmallIntVector{200}), -25536},
+        {SumSqVector(TKorByteVector{200}), -25536},  // 40000 read as int16
+        {SumSqVector(TKorByteVector{181}), 32761}, {SumSqVector(TKorByteVector{182}), -32412},  // 33124 - 65536
+        {SumSqVector(TKorSIntVector{-128}), 16384}, {SumSqVector(TKorWordVector{300}), 24464},  // 90000 mod 65536
+        {SumSqVector(TKorSmallIntVector{300}), 24464}, {SumSqVector(TKorSmallIntVector{200}), -25536},
         {SumSqVector(TKorLWordVector{65536}), 0},       // 2^32 mod 2^32
         {SumSqVector(TKorLWordVector{65537}), 131073},  // 2^32 + 2^17 + 1
-        {SumSqVector(TKorLWordVector{50000}), 2500000000.0L},  // unsigned 32-bit
-        {SumSqVector(TKorLIntVector{50000}), wrapped},
-        {SumSqVector(TKorInt64Vector{two32 + 3}), 9},
-        {SumSqVector(TKorInt64Vector{50000}), wrapped},
+        {SumSqVector(TKorLWordVector{50000}), 2500000000.0L}, {SumSqVector(TKorLIntVector{50000}), wrapped},
+        {SumSqVector(TKorInt64Vector{two32 + 3}), 9}, {SumSqVector(TKorInt64Vector{50000}), wrapped},
         {SumSqVector(TKorInt64Vector{-3}), 9},
         // Differences from a value wrap in the element width before squaring.
         {SumSqDiffVector(TKorLWordVector{1}, Cardinal(3)), 4},  // (2^32 - 2)^2 mod 2^32
         {SumSqDiffVector(TKorLWordVector{70000}, Cardinal(0)), 605032704},  // 4900000000 mod 2^32
         {SumSqDiffVector(TKorLIntVector{50001}, Integer(1)), wrapped},
-        {SumSqDiffVector(TKorInt64Vector{two32 + 5}, Int64(2)), 9},
-        {SumSqDiffVector(TKorLIntVector{1, 2, 3}, Integer(2)), 2},
+        {SumSqDiffVector(TKorInt64Vector{two32 + 5}, Int64(2)), 9}, {SumSqDiffVector(TKorLIntVector{1, 2, 3}, Integer(2)), 2},
         // With a Float value everything is Float: no truncation.
         {SumSqDiffVector(TKorLIntVector{50001}, Float(1)), 2500000000.0L},
         {SumSqDiffVector(TKorLWordVector{4294967295u}, Float(0.5L)), 4294967294.5L * 4294967294.5L},
         {SumSqDiffVector(TKorInt64Vector{two32 + 5}, Float(2)), 4294967299.0L * 4294967299.0L},
-        {SumSqDiffVector(TKorFloatVector{1.0L, 2.0L, 3.0L}, Float(2)), 2.0L},
+        {SumSqDiffVector(TKorFloatVector{1.0L, 2.0L, 3.0L}, Float(2)), 2},
     }));
     EXPECT_TRUE(Raises([] { SumSqDiffVector(TKorLIntVector(), Float(0)); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([] { SumSqDiffVector(TKorDoubleVector(), 0.0); }, rsVectorIsEmpty));

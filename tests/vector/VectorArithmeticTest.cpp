@@ -69,19 +69,19 @@ TEST(VectorProducts, IntegerPairsFollowTheirOwnWidths) {
         {DotProdVectors(TKorLWordVector{4294967295u}, TKorLWordVector{1}), -1},
         {DotProdVectors(TKorLIntVector{2147483647}, TKorLIntVector{2147483647}), 4611686014132420609.0L},
         {DotProdVectors(TKorInt64Vector{two32}, TKorInt64Vector{two32}), 0},
-        // Distances square the low 32 bits of the 64-bit difference, read as signed.
+        // Distances square the low 32 bits of the 64-bit difference, read as signed; the
+        // low bits of -(2^32 - 1) are 1.
         {SumSqDiffVectors(TKorLWordVector{50000}, TKorLWordVector{0}), wrapped},
         {SumSqDiffVectors(TKorLIntVector{-50000}, TKorLIntVector{0}), wrapped},
-        {SumSqDiffVectors(TKorLWordVector{0}, TKorLWordVector{4294967295u}), 1},  // low bits of -(2^32-1)
+        {SumSqDiffVectors(TKorLWordVector{0}, TKorLWordVector{4294967295u}), 1},
         {SumSqDiffVectors(TKorInt64Vector{two32 + 7}, TKorInt64Vector{4}), 9},
         // The magnitude squares in Float for every member.
-        {VectorMagnitude(TKorByteVector{200}), 200},
-        {VectorMagnitude(TKorInt64Vector{two32 + 3}), 4294967299.0L},
+        {VectorMagnitude(TKorByteVector{200}), 200}, {VectorMagnitude(TKorInt64Vector{two32 + 3}), 4294967299.0L},
     }));
 }
 
-TEST(VectorTransforms, SquareUsesTheElementWidth) {
-    TKorFloatVector f{1.5L, -2};
+TEST(VectorTransforms, SquareUsesTheElementWidthAndValidationComesBeforeTheFirstWrite) {
+    TKorFloatVector f{1.5L, -2}, z{2, 0};
     TKorLWordVector c{65537, 3};
     TKorLIntVector i{50000};
     TKorInt64Vector l{(Int64(1) << 32) + 3, 50000};
@@ -93,13 +93,8 @@ TEST(VectorTransforms, SquareUsesTheElementWidth) {
     EXPECT_EQ(Elements(c), (std::vector<Cardinal>{131073, 9}));
     EXPECT_EQ(Elements(i), (std::vector<Integer>{Integer(2500000000 - 4294967296)}));
     EXPECT_EQ(Elements(l), (std::vector<Int64>{9, 2500000000 - 4294967296}));
-    TKorDoubleVector empty;
-    EXPECT_TRUE(Raises([&] { SquareVector(empty); }, rsVectorIsEmpty));
-}
 
-TEST(VectorTransforms, ValidationComesBeforeTheFirstWrite) {
     TKorDoubleVector v{4, -1}, empty;
-    TKorFloatVector z{2, 0};
     TKorSingleVector p{1, 0};
     EXPECT_TRUE(Raises([&] { SqrtVector(v); }, rsVectorNeg));
     EXPECT_TRUE(Raises([&] { InvVector(z); }, rsVectorZero));
@@ -109,6 +104,7 @@ TEST(VectorTransforms, ValidationComesBeforeTheFirstWrite) {
     EXPECT_EQ(Elements(v), (std::vector<Double>{4, -1}));
     EXPECT_EQ(Elements(z), (std::vector<Float>{2, 0}));
     EXPECT_EQ(Elements(p), (std::vector<Single>{1, 0}));
+    EXPECT_TRUE(Raises([&] { SquareVector(empty); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([&] { SqrtVector(empty); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([&] { LinearTransformVector(empty, 1.0, 0.0); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([&] { TransformVector(empty, [](Double x) { return x; }); }, rsVectorIsEmpty));
@@ -137,7 +133,7 @@ TEST(VectorTransforms, RewriteInPlace) {
     EXPECT_EQ(Elements(w), (std::vector<Float>{-1, 2, 3}));
 }
 
-TEST(VectorMovingAverage, PlacesEachAverageInItsWindow) {
+TEST(VectorMovingAverage, PlacesEachAverageInItsWindowAndPolynomialsRunUpThePowers) {
     const TKorDoubleVector v{1, 2, 3, 4, 5};
     EXPECT_EQ(Elements(MovingAverage(v, 3, 1)), (std::vector<Double>{0, 2, 3, 4, 0}));
     EXPECT_EQ(Elements(MovingAverage(v, 3, 7)), (std::vector<Double>{0, 0, 2, 3, 4}));
@@ -146,13 +142,8 @@ TEST(VectorMovingAverage, PlacesEachAverageInItsWindow) {
     EXPECT_EQ(Elements(MovingAverage(TKorFloatVector{1, 2}, 1, 0)), (std::vector<Float>{1, 2}));
     EXPECT_TRUE(Raises([&] { MovingAverage(TKorSingleVector(), 1, 0); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([&] { MovingAverage(v, 0, 0); }, rsValueNotZero));
-}
-
-TEST(VectorPolynomial, RunningPowersInIncreasingOrder) {
-    EXPECT_TRUE(AllMatch({{KorPolynomial(TKorFloatVector{1, 2, 3}, 2), 17},
-                          {KorPolynomial(TKorFloatVector(), 2), 0},
-                          {KorPolynomial(TKorFloatVector{5}, 1e300L), 5},
-                          {KorPolynomial(TKorFloatVector{0, 0, 1}, -3), 9}}));
+    EXPECT_TRUE(AllMatch({{KorPolynomial(TKorFloatVector{1, 2, 3}, 2), 17}, {KorPolynomial(TKorFloatVector(), 2), 0},
+                          {KorPolynomial(TKorFloatVector{5}, 1e300L), 5}, {KorPolynomial(TKorFloatVector{0, 0, 1}, -3), 9}}));
 }
 
 }  // namespace
