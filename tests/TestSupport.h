@@ -21,12 +21,10 @@ template <class E = Platform::EMathError, class Call>
     try {
         call();
     } catch (const Platform::Exception& error) {
-        if (typeid(error) != typeid(E))
-            return ::testing::AssertionFailure() << "raised another class: " << error.Message();
-        if (error.Message() == text) return ::testing::AssertionSuccess();
-        return ::testing::AssertionFailure() << "raised \"" << error.Message() << "\", expected \"" << text << "\"";
+        if (typeid(error) == typeid(E) && error.Message() == text) return ::testing::AssertionSuccess();
+        return ::testing::AssertionFailure() << "raised " << typeid(error).name() << " \"" << error.Message() << "\"";
     }
-    return ::testing::AssertionFailure() << "raised nothing, expected \"" << text << "\"";
+    return ::testing::AssertionFailure() << "raised nothing";
 }
 
 template <class E = Platform::EMathError, class Call>

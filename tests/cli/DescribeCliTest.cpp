@@ -39,9 +39,9 @@ protected:
     }
 };
 
-TEST_F(DescribeCli, ReportsNumbersFromFilesSeparatedByAnyWhiteSpace) {
+TEST_F(DescribeCli, ReportsNumbersFromFilesAndStandardInput) {
     const std::string a = File("a.txt", "2 4\t4\n4\n");
-    const std::string b = File("b.txt", "  5\r\n5 7 \n\n9");
+    const std::string b = File("b.txt", "  5\r\n5 7 \n\n9");  // any white space separates
     const Outcome outcome = RunKornum("describe --population " + a + " " + b);
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output,
@@ -50,32 +50,24 @@ TEST_F(DescribeCli, ReportsNumbersFromFilesSeparatedByAnyWhiteSpace) {
               "Median:\t4.5000\nVariance:\t4.0000\nStandard Deviation:\t2.0000\n"
               "Kurtosis:\t-0.2188\nSkew:\t0.6562\nFirst Quartile:\t4.0000\n"
               "Third Quartile:\t6.0000\nInter-Quartile Range:\t2.0000\n");
-}
 
-TEST_F(DescribeCli, ReadsStandardInputAndHonoursDecimals) {
-    const Outcome outcome = RunKornum("describe --decimals 1", "1.5 2.5");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_NE(outcome.output.find("Mean:\t2.0\n"), std::string::npos) << outcome.output;
-    EXPECT_NE(outcome.output.find("Variance:\t0.5\n"), std::string::npos);  // a sample by default
+    const Outcome piped = RunKornum("describe --decimals 1", "1.5 2.5");
+    EXPECT_EQ(piped.status, 0);
+    EXPECT_NE(piped.output.find("Mean:\t2.0\n"), std::string::npos) << piped.output;
+    EXPECT_NE(piped.output.find("Variance:\t0.5\n"), std::string::npos);  // a sample by default
     EXPECT_EQ(RunKornum("describe -", "").output, "The vector is empty\n");
 }
 
-TEST_F(DescribeCli, BadInputNamesFileLineAndTextAndPrintsNoReport) {
+TEST_F(DescribeCli, RejectsBadInputAndOptionsAndExplainsItself) {
     const std::string file = File("bad.txt", "1 2\n3 x4 5\n");
-    const Outcome outcome = RunKornum("describe " + file);
+    const Outcome outcome = RunKornum("describe " + file);  // file, line and text; no report
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.output, "kornum describe: " + file + ":2: 'x4' is not a valid number\n");
-
     const Outcome missing = RunKornum("describe " + (directory / "none.txt").string());
     EXPECT_EQ(missing.status, 2);
     EXPECT_NE(missing.output.find("No such file or directory"), std::string::npos);
-}
-
-TEST_F(DescribeCli, RejectsBadOptionsAndExplainsItself) {
-    EXPECT_EQ(RunKornum("describe --decimals 300").status, 2);
-    EXPECT_EQ(RunKornum("describe --decimals").status, 2);
-    EXPECT_EQ(RunKornum("describe --frobnicate").status, 2);
-    EXPECT_EQ(RunKornum("frobnicate").status, 2);
+    for (const char* bad : {"describe --decimals 300", "describe --decimals", "describe --frobnicate", "frobnicate"})
+        EXPECT_EQ(RunKornum(bad).status, 2) << bad;
     const Outcome help = RunKornum("describe --help");
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.output.rfind("Usage: kornum describe", 0), 0u);

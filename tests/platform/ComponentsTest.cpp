@@ -11,7 +11,7 @@ using KornumTest::Raises;
 
 namespace {
 
-TEST(StringList, BehavesAsAnOrderedListOfLines) {
+TEST(StringList, BehavesAsAnOrderedListOfLinesAndTakesOnlyAnotherList) {
     TStringList list;
     EXPECT_EQ(list.Add("a"), 0);
     EXPECT_EQ(list.Add("b"), 1);
@@ -20,8 +20,7 @@ TEST(StringList, BehavesAsAnOrderedListOfLines) {
     EXPECT_EQ(list.Text(), "a\nx\nb\nz\n");
     list.Delete(0);
     list.Put(0, "y");
-    EXPECT_EQ(list.Count(), 3);
-    EXPECT_EQ(list[0], "y");
+    EXPECT_EQ(list.Text(), "y\nb\nz\n");
     EXPECT_EQ(list.IndexOf("z"), 2);
     EXPECT_EQ(list.IndexOf("a"), -1);
     EXPECT_THROW(list[3], EStringListError);
@@ -29,18 +28,10 @@ TEST(StringList, BehavesAsAnOrderedListOfLines) {
     EXPECT_THROW(list.Insert(5, "q"), EStringListError);
 
     list.SetText("one\r\ntwo\rthree\nfour\n");
-    EXPECT_EQ(list.Count(), 4);
-    EXPECT_EQ(list[2], "three");
-
     TStringList copy{"old"};
     copy.Assign(list);
-    EXPECT_EQ(copy.Text(), list.Text());
     list.Clear();
-    EXPECT_EQ(copy.Count(), 4);  // a copy, not a view
-}
-
-TEST(StringList, RefusesToTakeAnUnrelatedObject) {
-    TStringList list;
+    EXPECT_EQ(copy.Text(), "one\ntwo\nthree\nfour\n");  // a copy, not a view
     TComponent component(nullptr);
     EXPECT_TRUE(Raises<EConvertError>([&] { list.Assign(component); }, "Cannot assign a TComponent to a TStringList"));
 }
@@ -126,22 +117,17 @@ TEST(TextForm, WritesOnlyStoredPropertiesThatDifferFromTheirDefaults) {
 }
 
 TEST(TextForm, ReadsBackEveryValueAndEndsWithLoaded) {
-    Sample original(nullptr);
+    Sample original(nullptr), copy(nullptr);
     original.SetName("S1");
     original.count = -7;
     original.level = 1.0L / 3;  // needs all 64 bits to read back
     original.active = true;
     original.label = "tab\there";
     original.lines = {"x", "y"};
-
-    Sample copy(nullptr);
     ReadComponentText(copy, WriteComponentText(original));
+    EXPECT_EQ(std::tie(copy.count, copy.level, copy.active, copy.label, copy.lines),
+              std::tie(original.count, original.level, original.active, original.label, original.lines));
     EXPECT_EQ(copy.Name(), "S1");
-    EXPECT_EQ(copy.count, -7);
-    EXPECT_EQ(copy.level, 1.0L / 3);
-    EXPECT_TRUE(copy.active);
-    EXPECT_EQ(copy.label, "tab\there");
-    EXPECT_EQ(copy.lines, (std::vector<std::string>{"x", "y"}));
     EXPECT_TRUE(copy.loadingWhileReading);
     EXPECT_FALSE(copy.Loading());
     EXPECT_EQ(copy.loadedCalls, 1);

@@ -1,15 +1,11 @@
 // Statistics of frequency tables, with expected values worked by hand.
 #include "StatisticsTestSupport.h"
 
-#include <kornum/GroupedStatistics.h>
-#include <kornum/Kornum_RS_Math.h>
 
 #include <cstring>
 #include <functional>
 
-using namespace KornumStatistics;
 using namespace StatisticsTest;
-namespace rs = Kornum_RS_Math;
 
 namespace {
 const TKorLWordVector Table{1, 2, 1};  // with L = 0, W = 10: mid-points 5, 15, 25
@@ -63,9 +59,9 @@ TEST(GroupedStatistics, ShapeWithUnweightedPowerSums) {
 }
 
 TEST(GroupedStatistics, Failures) {
-    EXPECT_TRUE(Raises([] { GetGroupedSampleSkew(TKorLWordVector{1, 1}, 0, 1, 1, 0); }, rs::rsVectorG2));
-    EXPECT_TRUE(Raises([] { GetGroupedSampleKurtosis(TKorLWordVector{3}, 0, 1, 1, 1); }, rs::rsVectorG3));
-    EXPECT_TRUE(Raises([] { GetGroupedPopulationSkew(TKorLWordVector{3}, 0, 1, 1, 1e-16L); }, rs::rsStdDev));
+    EXPECT_TRUE(Raises([] { GetGroupedSampleSkew(TKorLWordVector{1, 1}, 0, 1, 1, 0); }, rsVectorG2));
+    EXPECT_TRUE(Raises([] { GetGroupedSampleKurtosis(TKorLWordVector{3}, 0, 1, 1, 1); }, rsVectorG3));
+    EXPECT_TRUE(Raises([] { GetGroupedPopulationSkew(TKorLWordVector{3}, 0, 1, 1, 1e-16L); }, rsStdDev));
     const TKorLWordVector empty;
     Float a = 7, b = 8, D[9] = {9};
     const std::function<void()> calls[] = {
@@ -76,6 +72,6 @@ TEST(GroupedStatistics, Failures) {
         [&] { GroupedPopulationStdDev(empty, 0, 1); },
         [&] { GroupedSums(empty, 0, 1, a, b); }, [&] { GetGroupedMeanDev(empty, 0, 1, 0); },
         [&] { GetGroupedPopulationKurtosis(empty, 0, 1, 0, 1); }};
-    for (const auto& call : calls) EXPECT_TRUE(Raises(call, rs::rsVectorIsEmpty));
+    for (const auto& call : calls) EXPECT_TRUE(Raises(call, rsVectorIsEmpty));
     EXPECT_TRUE(AllMatch({{a, 7}, {b, 8}, {D[0], 9}}));
 }

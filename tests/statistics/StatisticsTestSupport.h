@@ -3,6 +3,9 @@
 
 #include "TestSupport.h"
 
+#include <kornum/KornumStatistics.h>
+#include <kornum/Kornum_RS_Math.h>
+
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -14,7 +17,9 @@
 namespace StatisticsTest {
 
 using namespace KornumTest;
-using Kornumglobals::Float;
+using namespace KornumStatistics;
+using namespace Kornumglobals;
+using namespace Kornum_RS_Math;
 
 inline Float ToFloat(const std::string& text) { return std::strtold(text.c_str(), nullptr); }
 
