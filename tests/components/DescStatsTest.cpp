@@ -8,10 +8,6 @@
 #include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/PlatformStreaming.h>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-
 using namespace KornumDescStats;
 using namespace Kornumglobals;
 
@@ -167,20 +163,15 @@ TEST(DescStats, StreamsItsStoredPropertiesAndRecomputesWhenLoaded) {
     EXPECT_TRUE(KornumTest::AllMatch({{copy.Mean(), 2}, {copy.Variance(), 0.25L}}));  // population
 }
 
-TEST(DescStats, IsFreedByItsOwner) {
+TEST(DescStats, IsFreedByItsOwnerAndReportsWithTheCaptionsInForce) {
+    using namespace Kornum_RS_DescStats;
     Platform::TComponent owner(nullptr);
     auto* stats = new TKorDescStats(&owner);  // freed with the owner; the leak check sees it
-    stats->AddValue(1);
     EXPECT_EQ(owner.ComponentCount(), 1);
-}
-
-TEST(DescStats, CaptionsHaveTheirIdsAndTexts) {
-    using namespace Kornum_RS_DescStats;
     EXPECT_EQ(rsTestStatistic.Text(), "Test Statistics: ");  // trailing blank kept
     Platform::SetResourceText(rsDSMean, "Mittelwert:");
-    TKorDescStats stats(nullptr);
-    stats.AddValue(1);
-    EXPECT_EQ(stats.DescStats()->operator[](6), "Mittelwert:\t1.0000");
+    stats->AddValue(1);
+    EXPECT_EQ(stats->DescStats()->operator[](6), "Mittelwert:\t1.0000");
     Platform::RestoreDefaultResources();
 }
 

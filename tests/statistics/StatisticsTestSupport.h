@@ -9,7 +9,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -45,26 +44,6 @@ inline std::vector<std::vector<Float>> ReadTable(const std::string& name) {
         for (const std::string& field : fields) rows.back().push_back(ToFloat(field));
     });
     return rows;
-}
-
-// A sample file: the element type, the elements, and the reference statistics by name.
-struct ReferenceSample {
-    std::string type;
-    std::vector<Float> x;
-    std::map<std::string, Float> value;
-};
-
-inline ReferenceSample ReadReference(const std::string& name) {
-    ReferenceSample sample;
-    ForEachLine("sample_" + name + ".tsv", [&](const std::vector<std::string>& fields) {
-        if (fields[0] == "type")
-            sample.type = fields[1];
-        else if (fields[0] == "x")
-            sample.x.push_back(ToFloat(fields[1]));
-        else
-            sample.value[fields[0]] = ToFloat(fields[1]);
-    });
-    return sample;
 }
 
 inline Float RelativeError(Float value, Float reference) {

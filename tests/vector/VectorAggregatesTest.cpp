@@ -13,7 +13,7 @@ template <class E>
 class VectorAggregates : public ::testing::Test {};
 TYPED_TEST_SUITE(VectorAggregates, AllElementTypes);
 
-TYPED_TEST(VectorAggregates, SmallValuesAgreeAcrossMembers) {
+TYPED_TEST(VectorAggregates, SmallValuesAgreeAcrossMembersAndEmptyRaises) {
     using E = TypeParam;
     const TKorVector<E> v = Make<E>({3, 1, 4, 1, 5});
     EXPECT_EQ(SumVector(v), 14);
@@ -30,22 +30,18 @@ TYPED_TEST(VectorAggregates, SmallValuesAgreeAcrossMembers) {
               std::make_tuple(ValueOf<E>(1), 1u, false, ValueOf<E>(5), 4u, true));
     MinMaxVector(Make<E>({2}), lo, hi, loIndex, hiIndex, loUnique, hiUnique);
     EXPECT_EQ(std::make_tuple(loIndex, loUnique, hiIndex, hiUnique), std::make_tuple(0u, true, 0u, true));
-}
 
-TYPED_TEST(VectorAggregates, EmptyVectorRaisesAndLeavesOutputsAlone) {
-    using E = TypeParam;
+    // An empty vector raises and leaves the outputs alone.
     const TKorVector<E> empty;
     EXPECT_TRUE(Raises([&] { SumVector(empty); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([&] { SumSqVector(empty); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([&] { MaxVector(empty); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([&] { MinVector(empty); }, rsVectorIsEmpty));
-    ValueOf<E> lo = 7, hi = 8;
-    Cardinal loIndex = 3, hiIndex = 4;
-    Boolean loUnique = false, hiUnique = false;
+    const auto before = std::make_tuple(ValueOf<E>(7), ValueOf<E>(8), 3u, 4u, false, false);
+    std::tie(lo, hi, loIndex, hiIndex, loUnique, hiUnique) = before;
     EXPECT_TRUE(Raises([&] { MinMaxVector(empty, lo, hi, loIndex, hiIndex, loUnique, hiUnique); },
                        rsVectorIsEmpty));
-    EXPECT_EQ(std::make_tuple(lo, hi, loIndex, hiIndex, loUnique, hiUnique),
-              std::make_tuple(ValueOf<E>(7), ValueOf<E>(8), 3u, 4u, false, false));
+    EXPECT_EQ(std::tie(lo, hi, loIndex, hiIndex, loUnique, hiUnique), before);
     EXPECT_EQ(VectorMagnitude(empty), 0);
 }
 

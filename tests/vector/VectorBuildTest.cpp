@@ -41,7 +41,7 @@ template <class E>
 class VectorFilling : public ::testing::Test {};
 TYPED_TEST_SUITE(VectorFilling, AllElementTypes);
 
-TYPED_TEST(VectorFilling, FillAndClearWriteThroughEverySharer) {
+TYPED_TEST(VectorFilling, FillClearAndCopy) {
     using E = TypeParam;
     const TKorVector<E> v = Make<E>({1, 2, 3});
     const TKorVector<E> sharer = v;
@@ -53,17 +53,15 @@ TYPED_TEST(VectorFilling, FillAndClearWriteThroughEverySharer) {
     FillVector(empty, ValueOf<E>(1));
     ClearVector(empty);
     EXPECT_TRUE(empty.IsEmpty());
-}
 
-TYPED_TEST(VectorFilling, CopySharesNothingAndConvertsToFloatExactly) {
-    using E = TypeParam;
-    const TKorVector<E> v = Make<E>({1, 100, 3});
-    TKorVector<E> copy = CopyVector(v);
+    // A copy shares nothing; the conversion to Float is exact.
+    const TKorVector<E> w = Make<E>({1, 100, 3});
+    TKorVector<E> copy = CopyVector(w);
     copy[0] = E(ValueOf<E>(9));
-    EXPECT_EQ(Elements(v), (std::vector<ValueOf<E>>{1, 100, 3}));
-    EXPECT_EQ(Elements(Vector2FloatVector(v)), (std::vector<Float>{1, 100, 3}));
-    EXPECT_TRUE(CopyVector(TKorVector<E>()).IsEmpty());
-    EXPECT_TRUE(Vector2FloatVector(TKorVector<E>()).IsEmpty());
+    EXPECT_EQ(Elements(w), (std::vector<ValueOf<E>>{1, 100, 3}));
+    EXPECT_EQ(Elements(Vector2FloatVector(w)), (std::vector<Float>{1, 100, 3}));
+    EXPECT_TRUE(CopyVector(empty).IsEmpty());
+    EXPECT_TRUE(Vector2FloatVector(empty).IsEmpty());
 }
 
 TEST(VectorConversion, WideningFollowsTheSourceSignedness) {
