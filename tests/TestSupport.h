@@ -50,15 +50,10 @@ inline ::testing::AssertionResult AllMatch(
 }
 
 // Sets KorTolerance for one scope and restores it afterwards.
-class ToleranceScope {
-public:
-    explicit ToleranceScope(Kornumglobals::Float tolerance) : saved_(Kornumglobals::KorTolerance) {
-        Kornumglobals::KorTolerance = tolerance;
-    }
-    ~ToleranceScope() { Kornumglobals::KorTolerance = saved_; }
-
-private:
-    Kornumglobals::Float saved_;
+struct ToleranceScope {
+    explicit ToleranceScope(Kornumglobals::Float tolerance) { Kornumglobals::KorTolerance = tolerance; }
+    ~ToleranceScope() { Kornumglobals::KorTolerance = saved; }
+    const Kornumglobals::Float saved = Kornumglobals::KorTolerance;
 };
 
 }  // namespace KornumTest

@@ -13,15 +13,13 @@ using namespace Kornumglobals;
 
 namespace {
 
-TKorFloatVector Sample() { return TKorFloatVector{9, 4, 2, 5, 4, 7, 4, 5}; }
-
 std::vector<std::string> Lines(const Platform::TStrings& list) {
     std::vector<std::string> lines;
     for (int i = 0; i < list.Count(); ++i) lines.push_back(list[i]);
     return lines;
 }
 
-TEST(DescStats, StartsEmptyThenComputesTheSampleStatistics) {
+TEST(DescStats, StartsEmptyThenComputesAndReportsTheStatistics) {
     TKorDescStats stats(nullptr);
     EXPECT_EQ(stats.NoOfValues(), 0u);
     EXPECT_EQ(stats.DecimalPlaces(), 4);
@@ -30,7 +28,7 @@ TEST(DescStats, StartsEmptyThenComputesTheSampleStatistics) {
     EXPECT_EQ(stats.Mean(), 0);
     EXPECT_EQ(Lines(*stats.DescStats()), std::vector<std::string>{"The vector is empty"});
 
-    stats.SetValues(Sample());
+    stats.SetValues(TKorFloatVector{9, 4, 2, 5, 4, 7, 4, 5});
     EXPECT_EQ(stats.NoOfValues(), 8u);
     EXPECT_TRUE(stats.ModeExists());
     EXPECT_TRUE(KornumTest::AllMatch({{stats.Sum(), 40}, {stats.SumSq(), 232}, {stats.Mean(), 5}, {stats.Median(), 4.5L},
@@ -39,12 +37,8 @@ TEST(DescStats, StartsEmptyThenComputesTheSampleStatistics) {
     EXPECT_TRUE(KornumTest::AllMatch({{stats.Variance(), 32.0L / 7}, {stats.StdDev(), 2.138089935299395077L},
                                       {stats.Skew(), 0.8184875533567996781L}, {stats.Kurtosis(), 0.940625L}},
                                      1e-15L));
-}
 
-TEST(DescStats, WritesThePopulationReportLineByLine) {
-    TKorDescStats stats(nullptr);
-    stats.SetValues(Sample());
-    stats.SetPopulation(true);
+    stats.SetPopulation(true);  // the report, line by line
     EXPECT_EQ(Lines(*stats.DescStats()),
               (std::vector<std::string>{
                   "Number of Values:\t8", "Maximum:\t9.0000", "Minimum:\t2.0000", "Range:\t7.0000",
@@ -107,7 +101,7 @@ TEST(DescStats, RecomputesAfterEveryChangeButNotInsideAnUpdateBracket) {
     EXPECT_EQ(stats.Mean(), 4);
 }
 
-TEST(DescStats, KeepsItemsInStepWithAddedAndDeletedValues) {
+TEST(DescStats, KeepsItemsInStepAndConvertsTypedViews) {
     TKorDescStats stats(nullptr);
     stats.AddValue(0.5L);
     stats.AddValue(-2);
@@ -121,10 +115,8 @@ TEST(DescStats, KeepsItemsInStepWithAddedAndDeletedValues) {
     EXPECT_EQ(stats.Mean(), 20);
     Platform::TStringList bad{"1", "two"};
     EXPECT_THROW(stats.SetItems(bad), Platform::EConvertError);
-}
 
-TEST(DescStats, TypedViewsConvertAndFillTheCallersVector) {
-    TKorDescStats stats(nullptr);
+    // The typed views convert, and fill the caller's vector.
     stats.SetLIntValues(TKorLIntVector{-3, 4});
     EXPECT_EQ(stats.Mean(), 0.5L);
     stats.SetLWordValues(TKorLWordVector{4000000000u});

@@ -36,15 +36,6 @@ TEST(NumberToText, FixedNotationWithTheGivenDecimals) {
         EXPECT_EQ(StripTChStr(text, '0'), stripped);
 }
 
-TEST(Str2Float, AcceptsWhatAPersonTypes) {
-    EXPECT_TRUE(AllMatch({{Str2Float("  42 "), 42}, {Str2Float("\t-1.5\n"), -1.5L},
-                                      {Str2Float("+.5"), 0.5L}, {Str2Float("1."), 1},
-                                      {Str2Float("2.5E-3"), 2.5e-3L}, {Str2Float("1e+4"), 1e4L},
-                                      {Str2Float("0.1"), 0.1L},  // correctly rounded to 64 bits
-                                      {Str2Float("-inf"), -std::numeric_limits<Float>::infinity()}}));
-    EXPECT_TRUE(std::isnan(Str2Float("NaN")));
-}
-
 TEST(Str2Float, IsCorrectlyRoundedForEveryShapeOfDecimal) {
     // The standard library's correctly rounded conversion is the reference, over
     // decimals with 1 to 22 significant digits, leading and trailing zeros, exponents.
@@ -62,23 +53,25 @@ TEST(Str2Float, IsCorrectlyRoundedForEveryShapeOfDecimal) {
         ASSERT_EQ(Str2Float(text), expected) << text;
         ASSERT_EQ(Str2Float(std::string("-").append(text)), -expected) << text;
     }
-    for (Float x : {1.0L / 3, 123456.789L, -2.0L / 7, 1e-9L}) {  // the 20-decimal text reads back
+    for (Float x : {1.0L / 3, 123456.789L, -2.0L / 7, 1e-9L})  // the 20-decimal text reads back
         EXPECT_NEAR(double((Str2Float(Float2EStr(x, 20)) - x) / x), 0, 1e-18);
-    }
 }
 
-TEST(Str2Float, RejectsGarbageNamingTheText) {
+TEST(Str2Float, AcceptsWhatAPersonTypesAndRejectsGarbageNamingIt) {
+    EXPECT_TRUE(AllMatch({{Str2Float("  42 "), 42}, {Str2Float("\t-1.5\n"), -1.5L}, {Str2Float("+.5"), 0.5L},
+                          {Str2Float("1."), 1}, {Str2Float("2.5E-3"), 2.5e-3L}, {Str2Float("1e+4"), 1e4L},
+                          {Str2Float("0.1"), 0.1L},  // correctly rounded to 64 bits
+                          {Str2Float("-inf"), -std::numeric_limits<Float>::infinity()}}));
+    EXPECT_TRUE(std::isnan(Str2Float("NaN")));
     for (const std::string bad : {"", "   ", "abc", "1,5", "1e", "1.2.3", "--1", "+-1", "- 1", "0x10",
-                                  "12abc", "1 2", "e5", ".", "+"}) {
+                                  "12abc", "1 2", "e5", ".", "+"})
         EXPECT_TRUE(Raises<Platform::EConvertError>([&] { Str2Float(bad); }, "'" + bad + "' is not a valid number"));
-    }
     EXPECT_THROW(Str2Float("1e99999"), Platform::EConvertError);
 }
 
-
 Currency Raw(Int64 raw) { return Currency::FromRaw(raw); }
 
-TEST(Currency, ScalesRoundTiesToEvenAndScalingUpIsExact) {
+TEST(Currency, ScalesRoundTiesToEvenScalingUpIsExactAndRangeEndsHold) {
     // 0.125 and 0.375 are exact binary values, so their hundredths are true ties.
     EXPECT_TRUE(AllMatch({
         {Currency2Float(Raw(12345)), 1.2345L}, {Currency2Float(KorLongCurrency(1000000)), 1},
@@ -96,26 +89,22 @@ TEST(Currency, ScalesRoundTiesToEvenAndScalingUpIsExact) {
         // Scaling up.
         {KorCurrency2Currency(-123).Raw, -12300}, {KorCurrency2KorLongCurrency(INT32_MAX), 21474836470000.0L},
         {Currency2KorLongCurrency(Raw(7)), 700},
+        // KorCurrency holds hundredths in 32 bits: 21474836.47 is the largest amount.
+        {Float2KorCurrency(21474836.47L), INT32_MAX}, {Float2KorCurrency(-21474836.48L), INT32_MIN},
+        {Currency2KorCurrency(Raw(INT64_C(214748364749))), INT32_MAX},
     }));
-}
-
-TEST(Currency, ValuesOutsideTheTargetRangeRaiseRangeError) {
-    // KorCurrency holds hundredths in 32 bits: 21474836.47 is the largest amount.
-    EXPECT_EQ(Float2KorCurrency(21474836.47L), INT32_MAX);
-    EXPECT_EQ(Float2KorCurrency(-21474836.48L), INT32_MIN);
-    EXPECT_EQ(Currency2KorCurrency(Raw(INT64_C(214748364749))), INT32_MAX);
+    // Values outside the target range raise the range error.
     EXPECT_THROW(Float2KorCurrency(21474836.48L), Platform::ERangeError);
     EXPECT_THROW(Float2KorCurrency(__builtin_nanl("")), Platform::ERangeError);
     EXPECT_THROW(Float2KorLongCurrency(1e13L), Platform::ERangeError);
     EXPECT_THROW(Currency2KorCurrency(Raw(INT64_C(214748364750))), Platform::ERangeError);
     EXPECT_THROW(Currency2KorLongCurrency(Raw(INT64_MAX / 50)), Platform::ERangeError);
     EXPECT_TRUE(Raises<Platform::ERangeError>([] { Float2KorCurrency(1e30L); },
-                                                          "The value 1e+30 is out of the range of KorCurrency"));
+                                              "The value 1e+30 is out of the range of KorCurrency"));
 }
 
 TEST(Currency, SameCurrencyAndSwap) {
-    EXPECT_TRUE(SameCurrency(Raw(5), Raw(5)));
-    EXPECT_FALSE(SameCurrency(Raw(5), Raw(6)));
+    EXPECT_TRUE(SameCurrency(Raw(5), Raw(5)) && !SameCurrency(Raw(5), Raw(6)));
     Currency a = Raw(1), b = Raw(2);
     KorCurrency c = 3, d = 4;
     SwapXY(a, b);

@@ -33,10 +33,7 @@ TEST(Elementary, PowersLogarithmsArcCosSignAndExtremes) {
     EXPECT_NEAR(double(KorPi - 3.14159265358979323846L), 0, 1e-19);
 }
 
-TEST(Elementary, SwapAndClear) {
-    Byte b1 = 1, b2 = 200;
-    Kornumsystem::SwapXY(b1, b2);
-    EXPECT_EQ(b1 * 1000 + b2, 200001);
+TEST(Elementary, SwapPackedFloatsAndClear) {
     TKorFloatVector v{1.25L, -7.5L};
     Kornumsystem::SwapXY(v[0], v[1]);
     EXPECT_EQ(v[0], -7.5L);
@@ -64,36 +61,32 @@ TEST(Tolerance, EveryValueIsExactlyOneOfZeroPositiveNegative) {
     }
 }
 
-TEST(Tolerance, ZeroTestIsAbsoluteAndInclusive) {
-    ToleranceScope scope(1e-10L);
-    EXPECT_TRUE(FloatIsZero(1e-10L) && FloatIsZero(-1e-10L));
-    EXPECT_FALSE(FloatIsZero(std::nextafter(1e-10L, 1.0L)));
-    EXPECT_FALSE(FloatIsPositive(5e-11L) || FloatIsNegative(-5e-11L));
-    EXPECT_TRUE(FloatIsNegative(-2e-10L));
-}
-
-TEST(Tolerance, SameFloatIsRelativeAboveOneAndAbsoluteBelow) {
-    ToleranceScope scope(1e-12L);
-    EXPECT_TRUE(SameFloat(1e6L, 1e6L + 0.9e-6L));    // 0.9e-12 relative
-    EXPECT_FALSE(SameFloat(1e6L, 1e6L + 1.1e-6L));   // 1.1e-12 relative
-    EXPECT_TRUE(SameFloat(1e-3L, 1e-3L + 0.9e-12L)); // absolute below 1
-    EXPECT_FALSE(SameFloat(1e-3L, 1e-3L + 1.1e-12L));
-    const Float infinity = std::numeric_limits<Float>::infinity();
-    EXPECT_TRUE(SameFloat(infinity, infinity));
-    EXPECT_FALSE(SameFloat(infinity, -infinity));
-    EXPECT_FALSE(SameFloat(std::nanl(""), std::nanl("")));
-}
-
-TEST(Tolerance, NarrowWidthsHaveAFloorAtTheirOwnPrecision) {
-    // Neighbouring doubles and singles are the same at the default tolerance; Float
-    // neighbours farther apart than the tolerance are not.
+TEST(Tolerance, ByHandAtEachSetting) {
+    // At the default tolerance neighbouring doubles and singles are the same (each width
+    // has a floor at its own precision); Float neighbours farther apart are not.
     EXPECT_TRUE(SameFloat(0.1, std::nextafter(0.1, 1.0)));
     EXPECT_TRUE(SameFloat(0.1f, std::nextafter(0.1f, 1.0f)));
     EXPECT_FALSE(SameFloat(1.0, 1.0 + 2e-13));
     EXPECT_FALSE(SameFloat(1.0f, 1.0f + 4e-6f));
     EXPECT_FALSE(SameFloat(1.0L, 1.0L + 2e-15L));
-    // A tolerance above the floor applies to every width.
-    ToleranceScope scope(1e-3L);
+
+    ToleranceScope zero(1e-10L);  // the zero test is absolute and inclusive
+    EXPECT_TRUE(FloatIsZero(1e-10L) && FloatIsZero(-1e-10L));
+    EXPECT_FALSE(FloatIsZero(std::nextafter(1e-10L, 1.0L)));
+    EXPECT_FALSE(FloatIsPositive(5e-11L) || FloatIsNegative(-5e-11L));
+    EXPECT_TRUE(FloatIsNegative(-2e-10L));
+
+    ToleranceScope same(1e-12L);  // SameFloat is relative above one, absolute below
+    EXPECT_TRUE(SameFloat(1e6L, 1e6L + 0.9e-6L));
+    EXPECT_FALSE(SameFloat(1e6L, 1e6L + 1.1e-6L));
+    EXPECT_TRUE(SameFloat(1e-3L, 1e-3L + 0.9e-12L));
+    EXPECT_FALSE(SameFloat(1e-3L, 1e-3L + 1.1e-12L));
+    const Float infinity = std::numeric_limits<Float>::infinity();
+    EXPECT_TRUE(SameFloat(infinity, infinity));
+    EXPECT_FALSE(SameFloat(infinity, -infinity));
+    EXPECT_FALSE(SameFloat(std::nanl(""), std::nanl("")));
+
+    ToleranceScope wide(1e-3L);  // a tolerance above the floor applies to every width
     EXPECT_TRUE(SameFloat(1.0, 1.0009));
     EXPECT_TRUE(SameFloat(1.0f, 1.0009f));
     EXPECT_FALSE(SameFloat(1.0, 1.0011));

@@ -83,9 +83,8 @@ TKorVector<E> NearTies(std::mt19937_64& gen, int n, Float tolerance) {
         if constexpr (std::is_floating_point_v<ValueOf<E>>) {
             if (gen() % 3 == 0) x *= 1e6L;
             if (gen() % 5 == 0) x /= 1e6L;
-            const Float scale = std::max(1.0L, std::fabs(x));
-            const Float sign = gen() % 2 ? 1.0L : -1.0L;
-            x += sign * nudges[kind(gen)] * tolerance * scale;
+            const Float nudge = nudges[kind(gen)] * tolerance * std::max(1.0L, std::fabs(x));
+            x += gen() % 2 ? nudge : -nudge;
         } else {
             x = std::fabs(x);
             if (std::is_signed_v<ValueOf<E>> && gen() % 2) x = -x;

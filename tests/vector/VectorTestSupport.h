@@ -6,6 +6,7 @@
 #include <kornum/KornumVector.h>
 #include <kornum/Kornum_RS_Math.h>
 
+#include <algorithm>
 #include <initializer_list>
 #include <type_traits>
 #include <vector>
@@ -29,8 +30,7 @@ template <class E>
 TKorVector<E> Make(std::initializer_list<ValueOf<E>> values) {
     TKorVector<E> v;
     v.SetLength(Integer(values.size()));
-    Integer i = 0;
-    for (ValueOf<E> x : values) v[i++] = E(x);
+    std::copy(values.begin(), values.end(), v.begin());
     return v;
 }
 
