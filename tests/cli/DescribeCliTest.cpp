@@ -39,7 +39,7 @@ protected:
     }
 };
 
-TEST_F(DescribeCli, ReportsNumbersFromFilesAndStandardInput) {
+TEST_F(DescribeCli, ReportsFilesAndStandardInputAndRejectsBadInputAndOptions) {
     const std::string a = File("a.txt", "2 4\t4\n4\n");
     const std::string b = File("b.txt", "  5\r\n5 7 \n\n9");  // any white space separates
     const Outcome outcome = RunKornum("describe --population " + a + " " + b);
@@ -56,18 +56,17 @@ TEST_F(DescribeCli, ReportsNumbersFromFilesAndStandardInput) {
     EXPECT_NE(piped.output.find("Mean:\t2.0\n"), std::string::npos) << piped.output;
     EXPECT_NE(piped.output.find("Variance:\t0.5\n"), std::string::npos);  // a sample by default
     EXPECT_EQ(RunKornum("describe -", "").output, "The vector is empty\n");
-}
 
-TEST_F(DescribeCli, RejectsBadInputAndOptionsAndExplainsItself) {
+    // Bad input names the file, the line and the text, and prints no report.
     const std::string file = File("bad.txt", "1 2\n3 x4 5\n");
-    const Outcome outcome = RunKornum("describe " + file);  // file, line and text; no report
-    EXPECT_EQ(outcome.status, 2);
-    EXPECT_EQ(outcome.output, "kornum describe: " + file + ":2: 'x4' is not a valid number\n");
+    const Outcome bad = RunKornum("describe " + file);
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_EQ(bad.output, "kornum describe: " + file + ":2: 'x4' is not a valid number\n");
     const Outcome missing = RunKornum("describe " + (directory / "none.txt").string());
     EXPECT_EQ(missing.status, 2);
     EXPECT_NE(missing.output.find("No such file or directory"), std::string::npos);
-    for (const char* bad : {"describe --decimals 300", "describe --decimals", "describe --frobnicate", "frobnicate"})
-        EXPECT_EQ(RunKornum(bad).status, 2) << bad;
+    for (const char* arguments : {"describe --decimals 300", "describe --decimals", "describe --frobnicate", "frobnicate"})
+        EXPECT_EQ(RunKornum(arguments).status, 2) << arguments;
     const Outcome help = RunKornum("describe --help");
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.output.rfind("Usage: kornum describe", 0), 0u);

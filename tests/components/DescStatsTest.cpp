@@ -134,7 +134,7 @@ TEST(DescStats, KeepsItemsInStepAndConvertsTypedViews) {
 }
 
 TEST(DescStats, StreamsItsStoredPropertiesAndRecomputesWhenLoaded) {
-    TKorDescStats original(nullptr);
+    TKorDescStats original(nullptr), copy(nullptr);
     original.SetName("Stats");
     EXPECT_EQ(Platform::WriteComponentText(original), "TKorDescStats Stats\nend\n");
     original.AddValue(1.5L);
@@ -142,13 +142,7 @@ TEST(DescStats, StreamsItsStoredPropertiesAndRecomputesWhenLoaded) {
     original.SetDecimalPlaces(6);
     original.SetPopulation(true);
     const std::string text = Platform::WriteComponentText(original);
-    EXPECT_EQ(text,
-              "TKorDescStats Stats\n"
-              "  DecimalPlaces = 6\n"
-              "  Items = [\"1.5\", \"2.5\"]\n"
-              "  Population = true\n"
-              "end\n");
-    TKorDescStats copy(nullptr);
+    EXPECT_EQ(text, "TKorDescStats Stats\n  DecimalPlaces = 6\n  Items = [\"1.5\", \"2.5\"]\n  Population = true\nend\n");
     Platform::ReadComponentText(copy, text);
     EXPECT_EQ(copy.NoOfValues(), 2u);
     EXPECT_EQ(copy.DecimalPlaces(), 6);

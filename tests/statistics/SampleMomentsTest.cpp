@@ -72,7 +72,7 @@ TEST(OnePassSquares, NarrowSquaresOfTheIntegerMembers) {
 
 // ---- Other means, standardisation, skewness and kurtosis ----------------------------
 
-TEST(OtherMeans, ValuesByHandAndFailures) {
+TEST(OtherMeans, ValuesByHandFailuresAndStandardise) {
     EXPECT_TRUE(AllMatch({{GeometricMean(TKorFloatVector{1, 4}), 2}, {HarmonicMean(TKorFloatVector{1, 2, 4}), 12.0L / 7},
                           {RootMeanSquare(TKorFloatVector{3, 4}), 5},  // not divided by n
                           {MeanDeviation(TKorFloatVector{1, 2, 3, 6}, 3), 1.5L},
@@ -81,9 +81,8 @@ TEST(OtherMeans, ValuesByHandAndFailures) {
     EXPECT_TRUE(Raises([] { GeometricMean(TKorFloatVector{1, 0}); }, rsVectorNotPos));
     EXPECT_TRUE(Raises([] { HarmonicMean(TKorFloatVector{2, -1}); }, rsVectorNotPos));
     EXPECT_TRUE(Raises([] { RootMeanSquare(TKorFloatVector{}); }, rsVectorIsEmpty));
-}
 
-TEST(Standardise, InPlaceThroughSharedStorageAndExactZeroCheck) {
+    // Standardise rewrites in place, through shared storage, after an exact zero check.
     TKorFloatVector X{1, 2, 3}, empty;
     const TKorFloatVector sharer = X;
     EXPECT_TRUE(Raises([&] { Standardise(X, 1, 0, 0, 1); }, rsStdDev));

@@ -46,7 +46,7 @@ TYPED_TEST(VectorAggregates, SmallValuesAgreeAcrossMembersAndEmptyRaises) {
 }
 
 // Each narrow square and wrap worked out by hand from the bits that are kept.
-TEST(VectorSums, IntegerSumsAndSquaresKeepTheirDeliberateWidths) {
+TEST(VectorSums, SumsSquaresAndExtremesKeepTheirDeliberateWidths) {
     const Float wrapped = 2500000000.0L - 4294967296.0L;  // 50000^2 read as int32
     const Int64 two32 = Int64(1) << 32;
     EXPECT_TRUE(AllMatch({
@@ -75,24 +75,20 @@ TEST(VectorSums, IntegerSumsAndSquaresKeepTheirDeliberateWidths) {
         {SumSqDiffVector(TKorLWordVector{4294967295u}, Float(0.5L)), 4294967294.5L * 4294967294.5L},
         {SumSqDiffVector(TKorInt64Vector{two32 + 5}, Float(2)), 4294967299.0L * 4294967299.0L},
         {SumSqDiffVector(TKorFloatVector{1.0L, 2.0L, 3.0L}, Float(2)), 2},
+        // Floating sums accumulate in Float: 1 + 2^-60 - 1 is lost in double arithmetic.
+        {SumVector(TKorDoubleVector{1.0, 0x1p-60, -1.0}), 0x1p-60L},
+        {SumSqVector(TKorSingleVector{0x1p-20f, 1.0f}), 1.0L + 0x1p-40L},
+        // Extremes compare exactly in the element type.
+        {MaxVector(TKorLWordVector{1, 4294967295u, 2}), 4294967295.0L}, {MinVector(TKorSIntVector{1, -128, 2}), -128},
     }));
     EXPECT_TRUE(Raises([] { SumSqDiffVector(TKorLIntVector(), Float(0)); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([] { SumSqDiffVector(TKorDoubleVector(), 0.0); }, rsVectorIsEmpty));
 }
 
-TEST(VectorSums, FloatingSumsAccumulateInExtendedPrecision) {
-    // 1 + 2^-60 - 1 is lost in double arithmetic but kept in Float.
-    EXPECT_EQ(SumVector(TKorDoubleVector{1.0, 0x1p-60, -1.0}), 0x1p-60L);
-    EXPECT_EQ(SumSqVector(TKorSingleVector{0x1p-20f, 1.0f}), 1.0L + 0x1p-40L);
-}
-
-TEST(VectorExtremes, ComparisonsAreExactInTheElementType) {
-    EXPECT_EQ(MaxVector(TKorLWordVector{1, 4294967295u, 2}), 4294967295u);
-    EXPECT_EQ(MinVector(TKorSIntVector{1, -128, 2}), -128);
+TEST(VectorExtremes, ValuesWithinToleranceAreStillDistinct) {
     Double lo, hi;
     Cardinal loIndex, hiIndex;
     Boolean loUnique, hiUnique;
-    // Values within tolerance of each other are still distinct here.
     MinMaxVector(TKorDoubleVector{1.0, 1.0 + 1e-15, 1.0}, lo, hi, loIndex, hiIndex, loUnique, hiUnique);
     EXPECT_EQ(std::make_tuple(loIndex, loUnique, hiIndex, hiUnique), std::make_tuple(0u, false, 1u, true));
 }

@@ -12,36 +12,29 @@ namespace {
 using namespace VectorTest;
 
 template <class E>
-class VectorPairs : public ::testing::Test {};
-using PairTypes = ::testing::Types<PackedFloat, Double, Single, Int64, Integer>;
-TYPED_TEST_SUITE(VectorPairs, PairTypes);
-
-TYPED_TEST(VectorPairs, AddAndSubtractElementWise) {
-    using E = TypeParam;
-    using Values = std::vector<ValueOf<E>>;
-    const TKorVector<E> a = Make<E>({1, 2}), b = Make<E>({10, 20}), longer = Make<E>({1, 2, 3});
-    EXPECT_EQ(Elements(AddVectors(a, b)), (Values{11, 22}));
-    EXPECT_EQ(Elements(SubtractVectors(a, b)), (Values{-9, -18}));
-    EXPECT_TRUE(AddVectors(TKorVector<E>(), TKorVector<E>()).IsEmpty());
-    TKorVector<E> c = CopyVector(a);
-    const TKorVector<E> sharer = c;
-    AddToVector(c, b);
-    EXPECT_EQ(Elements(sharer), (Values{11, 22}));  // rewritten where it lies
-    SubtractFromVector(c, b);
-    EXPECT_TRUE(Raises([&] { AddVectors(a, longer); }, rsSameDimensions));
-    EXPECT_TRUE(Raises([&] { SubtractVectors(a, longer); }, rsSameDimensions));
-    EXPECT_TRUE(Raises([&] { AddToVector(c, longer); }, rsSameDimensions));
-    EXPECT_TRUE(Raises([&] { SubtractFromVector(c, longer); }, rsSameDimensions));
-    EXPECT_EQ(Elements(c), (Values{1, 2}));
-}
-
-template <class E>
 class VectorProducts : public ::testing::Test {};
 using ProductTypes = ::testing::Types<PackedFloat, Double, Single, Int64, Cardinal, Integer>;
 TYPED_TEST_SUITE(VectorProducts, ProductTypes);
 
-TYPED_TEST(VectorProducts, DotProductDistanceAndAngle) {
+TYPED_TEST(VectorProducts, PairsDotProductDistanceAndAngle) {
     using E = TypeParam;
+    if constexpr (!std::is_same_v<E, Cardinal>) {  // every product member but Cardinal has the pairs
+        using Values = std::vector<ValueOf<E>>;
+        const TKorVector<E> a = Make<E>({1, 2}), b = Make<E>({10, 20}), longer = Make<E>({1, 2, 3});
+        EXPECT_EQ(Elements(AddVectors(a, b)), (Values{11, 22}));
+        EXPECT_EQ(Elements(SubtractVectors(a, b)), (Values{-9, -18}));
+        EXPECT_TRUE(AddVectors(TKorVector<E>(), TKorVector<E>()).IsEmpty());
+        TKorVector<E> c = CopyVector(a);
+        const TKorVector<E> sharer = c;
+        AddToVector(c, b);
+        EXPECT_EQ(Elements(sharer), (Values{11, 22}));  // rewritten where it lies
+        SubtractFromVector(c, b);
+        EXPECT_TRUE(Raises([&] { AddVectors(a, longer); }, rsSameDimensions));
+        EXPECT_TRUE(Raises([&] { SubtractVectors(a, longer); }, rsSameDimensions));
+        EXPECT_TRUE(Raises([&] { AddToVector(c, longer); }, rsSameDimensions));
+        EXPECT_TRUE(Raises([&] { SubtractFromVector(c, longer); }, rsSameDimensions));
+        EXPECT_EQ(Elements(c), (Values{1, 2}));
+    }
     const TKorVector<E> a = Make<E>({1, 2, 3}), b = Make<E>({4, 5, 6}), one = Make<E>({1}), none;
     EXPECT_EQ(DotProdVectors(a, b), 32);
     EXPECT_EQ(SumSqDiffVectors(a, b), 27);
