@@ -103,18 +103,14 @@ TEST(DescStats, RecomputesAfterEveryChangeButNotInsideAnUpdateBracket) {
 
 TEST(DescStats, KeepsItemsInStepAndConvertsTypedViews) {
     TKorDescStats stats(nullptr);
-    stats.AddValue(0.5L);
-    stats.AddValue(-2);
-    stats.AddValue(1.25L);
+    for (Float x : {0.5L, -2.0L, 1.25L}) stats.AddValue(x);
     EXPECT_EQ(Lines(stats.Items()), (std::vector<std::string>{"0.5", "-2.", "1.25"}));
     stats.DeleteValue(1);
     EXPECT_EQ(Lines(stats.Items()), (std::vector<std::string>{"0.5", "1.25"}));
 
-    Platform::TStringList lines{" 10", "20 ", "3e1"};
-    stats.SetItems(lines);
+    stats.SetItems(Platform::TStringList{" 10", "20 ", "3e1"});
     EXPECT_EQ(stats.Mean(), 20);
-    Platform::TStringList bad{"1", "two"};
-    EXPECT_THROW(stats.SetItems(bad), Platform::EConvertError);
+    EXPECT_THROW(stats.SetItems(Platform::TStringList{"1", "two"}), Platform::EConvertError);
 
     // The typed views convert, and fill the caller's vector.
     stats.SetLIntValues(TKorLIntVector{-3, 4});

@@ -28,7 +28,6 @@ TEST_F(Messages, FortyFiveIdentifiersWithUniqueIdsNamesAndTexts) {
     }
     EXPECT_EQ(ids.size(), 45u);
     EXPECT_EQ(names.size(), 45u);
-    EXPECT_EQ(&Kornummsgs::rsNA, &rsNA);
 }
 
 TEST_F(Messages, RaiseThrowsTheGivenClassWithTheTextInForceExactly) {

@@ -28,7 +28,7 @@ TEST(GroupedStatistics, LocationAndSpread) {
                          1e-16L));
 }
 
-TEST(GroupedStatistics, ModeAndTieMarker) {
+TEST(GroupedStatistics, ModeTieMarkerAndShapeWithUnweightedPowerSums) {
     Float marker = 0;
     EXPECT_FALSE(GroupedMode(TKorLWordVector{2, 2}, 0, 1, marker));
     const unsigned char smallest[10] = {1};  // mantissa 1, exponent 0
@@ -43,11 +43,9 @@ TEST(GroupedStatistics, ModeAndTieMarker) {
                           {modeOf({3, 1, 1}), 0.6L},    // a tie below the maximum
                           {modeOf({4000000000u, 4294967295u, 0}), 1 + 294967295.0L / 4589934590.0L}},  // d1 + d2 > 2^32
                          1e-18L));
-}
 
-// Mid-points 1, 3, 5, 7, 9 about Mean = 4 with s = 2: deviations -3, -1, 1, 3, 5, so
-// S3 = 125 and S4 = 789, worked through the ungrouped formulas.
-TEST(GroupedStatistics, ShapeWithUnweightedPowerSums) {
+    // Mid-points 1, 3, 5, 7, 9 about Mean = 4 with s = 2: deviations -3, -1, 1, 3, 5, so
+    // S3 = 125 and S4 = 789, worked through the ungrouped formulas.
     const TKorLWordVector ones{1, 1, 1, 1, 1};
     EXPECT_TRUE(AllMatch({{GetGroupedSampleSkew(ones, 0, 2, 4, 2), 125.0L / 40},
                           {GetGroupedPopulationSkew(ones, 0, 2, 4, 2), 625.0L / 96},

@@ -5,7 +5,7 @@ namespace {
 
 using namespace VectorTest;
 
-TEST(VectorResizing, InsertAndAppendGrowAndDetachSharedStorage) {
+TEST(VectorResizing, InsertAppendAndDelete) {
     TKorDoubleVector v;
     AppendValue2Vector(v, 1.5);
     TKorDoubleVector sharer = v;
@@ -23,18 +23,17 @@ TEST(VectorResizing, InsertAndAppendGrowAndDetachSharedStorage) {
     TKorFloatVector f{1.0L, 2.0L};
     AddValue2Vector(f, 0.25L, 1);
     EXPECT_EQ(Elements(f), (std::vector<Float>{1.0L, 0.25L, 2.0L}));
-}
 
-TEST(VectorResizing, DeleteShiftsDownReleasesLastAndIgnoresBadIndexes) {
-    TKorLWordVector v{1, 2, 3, 4};
-    for (Integer index : {5, -1, 0, 4, 2}) DeleteValueFromVector(v, index);
-    EXPECT_EQ(Elements(v), (std::vector<Cardinal>{2, 3}));
+    // Deletes shift down, release the last element and ignore bad indexes.
+    TKorLWordVector d{1, 2, 3, 4};
+    for (Integer index : {5, -1, 0, 4, 2}) DeleteValueFromVector(d, index);
+    EXPECT_EQ(Elements(d), (std::vector<Cardinal>{2, 3}));
     TKorInt64Vector one{5};
     DeleteValueFromVector(one, 0);
     EXPECT_EQ(one.High(), -1);
-    TKorSingleVector empty;
-    DeleteValueFromVector(empty, 0);
-    EXPECT_TRUE(empty.IsEmpty());
+    TKorSingleVector none;
+    DeleteValueFromVector(none, 0);
+    EXPECT_TRUE(none.IsEmpty());
 }
 
 template <class E>
@@ -74,9 +73,7 @@ TEST(VectorConversion, WideningFollowsTheSourceSignedness) {
     EXPECT_EQ(Elements(Vector2Int64Vector(TKorByteVector{255})), (std::vector<Int64>{255}));
     EXPECT_EQ(Elements(Vector2LIntVector(TKorWordVector{65535})), (std::vector<Integer>{65535}));
     EXPECT_EQ(Elements(Vector2LIntVector(TKorSmallIntVector{-32768})), (std::vector<Integer>{-32768}));
-}
-
-TEST(VectorConversion, RawArraysAreGivenByFirstElementAndLastIndex) {
+    // Raw arrays are given by their first element and last index.
     const Cardinal cardinals[] = {4294967295u, 1, 2};
     const ShortInt shorts[] = {-1, 5};
     const Float floats[] = {0.5L};
