@@ -15,6 +15,8 @@
 
 namespace KornumTest {
 
+using Kornumglobals::Float;
+
 // call must raise exactly class E (not a subclass or base) carrying exactly text.
 template <class E = Platform::EMathError, class Call>
 ::testing::AssertionResult Raises(Call&& call, const std::string& text) {
@@ -34,9 +36,7 @@ template <class E = Platform::EMathError, class Call>
 
 // Each pair is (computed, expected), equal or within tolerance; every mismatch is named by
 // its position in the list.
-inline ::testing::AssertionResult AllMatch(
-    std::initializer_list<std::pair<Kornumglobals::Float, Kornumglobals::Float>> pairs,
-    Kornumglobals::Float tolerance = 0) {
+inline ::testing::AssertionResult AllMatch(std::initializer_list<std::pair<Float, Float>> pairs, Float tolerance = 0) {
     std::ostringstream mismatches;
     mismatches.precision(21);
     int position = 0;
@@ -51,9 +51,9 @@ inline ::testing::AssertionResult AllMatch(
 
 // Sets KorTolerance for one scope and restores it afterwards.
 struct ToleranceScope {
-    explicit ToleranceScope(Kornumglobals::Float tolerance) { Kornumglobals::KorTolerance = tolerance; }
+    explicit ToleranceScope(Float tolerance) { Kornumglobals::KorTolerance = tolerance; }
     ~ToleranceScope() { Kornumglobals::KorTolerance = saved; }
-    const Kornumglobals::Float saved = Kornumglobals::KorTolerance;
+    const Float saved = Kornumglobals::KorTolerance;
 };
 
 }  // namespace KornumTest

@@ -103,14 +103,4 @@ TEST(Currency, ScalesRoundTiesToEvenScalingUpIsExactAndRangeEndsHold) {
                                               "The value 1e+30 is out of the range of KorCurrency"));
 }
 
-TEST(Currency, SameCurrencyAndSwap) {
-    EXPECT_TRUE(SameCurrency(Raw(5), Raw(5)) && !SameCurrency(Raw(5), Raw(6)));
-    Currency a = Raw(1), b = Raw(2);
-    KorCurrency c = 3, d = 4;
-    SwapXY(a, b);
-    SwapXY(c, d);
-    EXPECT_EQ(a.Raw, 2);
-    EXPECT_EQ(c, 4);
-}
-
 }  // namespace

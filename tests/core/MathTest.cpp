@@ -1,4 +1,4 @@
-// Elementary functions with the library's conventions, swaps and clearing, and the
+// Elementary functions with the library's conventions, swaps, and the
 // tolerant comparisons, which agree with each other and follow KorTolerance.
 #include "TestSupport.h"
 
@@ -6,7 +6,6 @@
 #include <kornum/Kornumsystem.h>
 
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <random>
 
@@ -16,8 +15,11 @@ using KornumTest::ToleranceScope;
 
 namespace {
 
-TEST(Elementary, PowersLogarithmsArcCosSignAndExtremes) {
+TEST(Elementary, PowersLogarithmsArcCosSignExtremesAndSwap) {
+    TKorFloatVector v{1.25L, -7.5L};
+    Kornumsystem::SwapXY(v[0], v[1]);  // packed elements are exchanged in place
     EXPECT_TRUE(KornumTest::AllMatch({
+        {v[0], -7.5L}, {v[1], 1.25L},
         // A negative base with an integral exponent gives the signed power.
         {XtoY(-2, 3), -8}, {XtoY(-2, 2), 4}, {XtoY(-2, -3), -0.125L}, {XtoY(0, 0), 1},
         {XtoY(2, 0.5L), std::sqrt(2.0L)}, {TwoToY(-3), 0.125L},
@@ -27,21 +29,9 @@ TEST(Elementary, PowersLogarithmsArcCosSignAndExtremes) {
         {MinXY(Integer(-5), Integer(3)), -5}, {MinXY(Int64(1) << 40, Int64(7)), 7},
         {MaxXY(Int64(-1), Int64(1) << 40), 1099511627776.0L}, {MinXY(2.5L, -1.0L), -1}, {MaxXY(2.5L, -1.0L), 2.5L},
     }));
-    EXPECT_TRUE(std::isnan(XtoY(-8, 1.0L / 3)));
-    EXPECT_TRUE(std::isnan(KorArcCos(1.0L + 1e-18L)));
+    EXPECT_TRUE(std::isnan(XtoY(-8, 1.0L / 3)) && std::isnan(KorArcCos(1.0L + 1e-18L)));
     // pi to 21 digits, from its published decimal expansion.
     EXPECT_NEAR(double(KorPi - 3.14159265358979323846L), 0, 1e-19);
-}
-
-TEST(Elementary, SwapPackedFloatsAndClear) {
-    TKorFloatVector v{1.25L, -7.5L};
-    Kornumsystem::SwapXY(v[0], v[1]);
-    EXPECT_EQ(v[0], -7.5L);
-    EXPECT_EQ(v[1], 1.25L);
-    unsigned char bytes[8] = {1, 2, 3, 4, 5, 6, 7, 8};
-    Kornumsystem::KorClear(bytes + 2, 4);  // exactly size bytes
-    const unsigned char expected[8] = {1, 2, 0, 0, 0, 0, 7, 8};
-    EXPECT_EQ(std::memcmp(bytes, expected, 8), 0);
 }
 
 TEST(Tolerance, EveryValueIsExactlyOneOfZeroPositiveNegative) {

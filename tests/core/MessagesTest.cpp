@@ -26,20 +26,18 @@ TEST_F(Messages, FortyFiveIdentifiersWithUniqueIdsNamesAndTexts) {
         EXPECT_FALSE(std::string(message->DefaultText).empty()) << message->Name;
         EXPECT_EQ(Platform::FindResource(message->Name), message);
     }
-    EXPECT_EQ(ids.size(), 45u);
-    EXPECT_EQ(names.size(), 45u);
+    EXPECT_EQ(std::make_pair(ids.size(), names.size()), std::make_pair(std::size_t(45), std::size_t(45)));
 }
 
-TEST_F(Messages, RaiseThrowsTheGivenClassWithTheTextInForceExactly) {
+TEST_F(Messages, RaiseThrowsTheGivenClassWithTheTextInForceAndTablesReplaceTexts) {
     EXPECT_TRUE(Raises([] { Platform::Raise(rsVectorIsEmpty); }, "The vector is empty"));
     EXPECT_TRUE(Raises<Platform::Exception>([] { Platform::Raise<Platform::Exception>(rsMedianNotFound); },
                                             rsMedianNotFound));
     Platform::SetResourceText(rsVectorIsEmpty, "Der Vektor ist leer");
     EXPECT_TRUE(Raises([] { Platform::Raise(rsVectorIsEmpty); }, "Der Vektor ist leer"));
     EXPECT_EQ(rsMatrixIsEmpty.Text(), "The matrix is empty");  // others untouched
-}
 
-TEST_F(Messages, AWholeTableReplacesEveryTextAndFallsBackToTheDefaults) {
+    // A whole table replaces every text, falling back to the defaults.
     Platform::SetResourceText(rsMagZero, "stale");
     Platform::ReplaceResourceTable({{"rsVectorG1", "Mehr als ein Wert nötig"},
                                     {"rsStdDev", "Standardabweichung muss positiv sein"}});

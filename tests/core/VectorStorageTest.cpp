@@ -23,7 +23,6 @@ TYPED_TEST_SUITE(VectorStorage, AllVectors);
 TYPED_TEST(VectorStorage, CopiesShareUntilResizedAndEmptyIsTheNullHandle) {
     TypeParam never, a{1, 2, 3};
     EXPECT_EQ(never.High(), -1);
-    EXPECT_EQ(never.begin(), never.end());
     const TypeParam b = a;  // a constant handle still writes the shared elements
     EXPECT_EQ(a.RefCount(), 2);
     b[1] = 7;
@@ -45,8 +44,7 @@ TYPED_TEST(VectorStorage, CopiesShareUntilResizedAndEmptyIsTheNullHandle) {
 
     grown.SetLength(1);
     grown.SetLength(3);  // the reappearing elements are zero, not the old values
-    EXPECT_EQ(grown[1], 0);
-    EXPECT_EQ(grown[2], 0);
+    EXPECT_TRUE(grown[1] == 0 && grown[2] == 0);
     a.SetLength(0);  // releases: the null handle again
     EXPECT_TRUE(a.IsEmpty());
     EXPECT_EQ(a.High(), -1);
@@ -87,7 +85,6 @@ TEST(Matrix, IsAVectorOfRowVectorsThatMayBeRagged) {
     EXPECT_TRUE(m[0].IsEmpty());  // new rows are empty handles
     m[0] = TKorFloatVector{1, 2, 3};
     m[1] = TKorFloatVector{4};
-    EXPECT_EQ(m[1].Length(), 1);
 
     TKorFloatMatrix shared = m;
     m.SetLength(3);  // the outer vector detaches; rows stay shared handles

@@ -63,11 +63,9 @@ TEST(GroupedStatistics, Failures) {
     const TKorLWordVector empty;
     Float a = 7, b = 8, D[9] = {9};
     const std::function<void()> calls[] = {
-        [&] { GroupedMean(empty, 0, 1); },       [&] { GroupedMedian(empty, 0, 1); },
-        [&] { GroupedMode(empty, 0, 1, a); },    [&] { GroupedQuartiles(empty, 0, 1, a, b); },
-        [&] { GetGroupedDeciles(empty, 0, 1, D); },
-        [&] { GroupedSampleVariance(empty, 0, 1); },
-        [&] { GroupedPopulationStdDev(empty, 0, 1); },
+        [&] { GroupedMean(empty, 0, 1); }, [&] { GroupedMedian(empty, 0, 1); }, [&] { GroupedMode(empty, 0, 1, a); },
+        [&] { GroupedQuartiles(empty, 0, 1, a, b); }, [&] { GetGroupedDeciles(empty, 0, 1, D); },
+        [&] { GroupedSampleVariance(empty, 0, 1); }, [&] { GroupedPopulationStdDev(empty, 0, 1); },
         [&] { GroupedSums(empty, 0, 1, a, b); }, [&] { GetGroupedMeanDev(empty, 0, 1, 0); },
         [&] { GetGroupedPopulationKurtosis(empty, 0, 1, 0, 1); }};
     for (const auto& call : calls) EXPECT_TRUE(Raises(call, rsVectorIsEmpty));

@@ -150,9 +150,8 @@ void ExpectTwoPassDigits(const char* name, Float digits) {
 TEST(Accuracy, TwoPassAgainstMpmath) {
     // 10^4 values of 10^9 + k/1000 and of 10^13 + k/10, and two random samples: 15
     // significant digits at least.
-    for (const char* name : {"offset1e9", "offset1e13", "normal1e6", "lognormal"}) {
+    for (const char* name : {"offset1e9", "offset1e13", "normal1e6", "lognormal"})
         ExpectTwoPassDigits<TKorFloatVector>(name, 15);
-    }
     ExpectTwoPassDigits<TKorDoubleVector>("offset1e9_double", 15);
 }
 

@@ -16,11 +16,8 @@ TYPED_TEST_SUITE(VectorAggregates, AllElementTypes);
 TYPED_TEST(VectorAggregates, SmallValuesAgreeAcrossMembersAndEmptyRaises) {
     using E = TypeParam;
     const TKorVector<E> v = Make<E>({3, 1, 4, 1, 5});
-    EXPECT_EQ(SumVector(v), 14);
-    EXPECT_EQ(SumSqVector(v), 52);
-    EXPECT_EQ(MaxVector(v), ValueOf<E>(5));
-    EXPECT_EQ(MinVector(v), ValueOf<E>(1));
-    EXPECT_EQ(VectorMagnitude(v), std::sqrt(52.0L));
+    EXPECT_TRUE(AllMatch({{SumVector(v), 14}, {SumSqVector(v), 52}, {MaxVector(v), 5}, {MinVector(v), 1},
+                          {VectorMagnitude(v), std::sqrt(52.0L)}}));
 
     ValueOf<E> lo{}, hi{};
     Cardinal loIndex = 9, hiIndex = 9;
@@ -83,9 +80,8 @@ TEST(VectorSums, SumsSquaresAndExtremesKeepTheirDeliberateWidths) {
     }));
     EXPECT_TRUE(Raises([] { SumSqDiffVector(TKorLIntVector(), Float(0)); }, rsVectorIsEmpty));
     EXPECT_TRUE(Raises([] { SumSqDiffVector(TKorDoubleVector(), 0.0); }, rsVectorIsEmpty));
-}
 
-TEST(VectorExtremes, ValuesWithinToleranceAreStillDistinct) {
+    // Values within tolerance of each other are still distinct extremes.
     Double lo, hi;
     Cardinal loIndex, hiIndex;
     Boolean loUnique, hiUnique;
