@@ -1,5 +1,7 @@
 #include <kornum/KornumDescStats.h>
 
+#include "AscendingCopy.hpp"
+
 #include <kornum/KornumPackage.h>
 #include <kornum/KornumStatistics.h>
 #include <kornum/KornumVector.h>
@@ -209,8 +211,7 @@ void TKorDescStats::UpdateStats() {
     const Integer n = values_.Length();
     if (n == 0) return ResetStatistics();
 
-    sorted_ = KornumVector::CopyVector(values_);
-    KornumVector::QSortVector(sorted_, true);
+    sorted_ = detail::AscendingCopy(values_);  // what QSortVector gives, in linear time
     sum_ = KornumVector::SumVector(values_);
     sumSq_ = KornumVector::SumSqVector(values_);
     mean_ = sum_ / n;
