@@ -20,9 +20,8 @@ void ExpectSameAsQSort(const TKorFloatVector& values) {
     KornumVector::QSortVector(expected, true);
     const TKorFloatVector sorted = KornumDescStats::detail::AscendingCopy(values);
     ASSERT_EQ(sorted.Length(), values.Length());
-    if (values.Length() > 0) {
-        ASSERT_FALSE(sorted.SharesWith(values));
-    }
+    if (values.Length() == 0) return;
+    ASSERT_FALSE(sorted.SharesWith(values));
     EXPECT_EQ(std::memcmp(sorted.data(), expected.data(), 10 * std::size_t(values.Length())), 0);
 }
 
