@@ -29,8 +29,8 @@ TEST(Combinatorics, ZeroCasesExactValuesAndFailures) {
 }
 
 TEST(Combinatorics, BinomialCoeffWithinFourE18OfExactIntegersUpToN1030) {
-    // The additive triangle of binomial coefficients in base 2^32; a row entry is read to within an ulp of a Float
-    // from its top three limbs.
+    // The additive triangle of binomial coefficients in base 2^32; a row entry is read
+    // to within an ulp of a Float from its top three limbs.
     using BigInt = std::vector<std::uint32_t>;
     auto add = [](const BigInt& a, const BigInt& b) {
         BigInt sum(std::max(a.size(), b.size()) + 1, 0);
