@@ -12,7 +12,7 @@ packages=(
 )
 # With --bench: also what the whole-program benchmark compares against.
 if [ "${1:-}" = "--bench" ]; then
-  packages+=(python3-numpy python3-scipy hyperfine)
+  packages+=(python3-numpy python3-scipy)
 fi
 
 missing=()
