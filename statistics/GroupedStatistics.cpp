@@ -1,5 +1,7 @@
 #include <kornum/GroupedStatistics.h>
 
+#include "StatisticsChecks.hpp"
+
 #include <kornum/KornumVector.h>
 #include <kornum/Kornum_RS_Math.h>
 #include <kornum/Kornummath.h>
@@ -17,9 +19,7 @@ namespace {
 using Kornumglobals::Cardinal;
 using Kornumglobals::Int64;
 
-void CheckNotEmpty(const TKorLWordVector& F) {
-    if (F.Length() == 0) Platform::Raise(Kornum_RS_Math::rsVectorIsEmpty);
-}
+using detail::RequireNotEmpty;
 
 // N, the total count, as the vector module sums a Cardinal vector.
 Int64 TotalCount(const TKorLWordVector& F) { return KornumVector::SumVector(F); }
@@ -61,7 +61,7 @@ Float UnweightedDeviationSum(const TKorLWordVector& F, Float L, Float W, Float M
 // Returns N after the checks shared by the shape members.
 Float CheckShape(const TKorLWordVector& F, Float StdDev, Int64 minimum,
                  const Platform::ResourceString& tooFew) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Int64 N = TotalCount(F);
     if (N < minimum) Platform::Raise(tooFew);
     if (Kornummath::FloatIsZero(StdDev)) Platform::Raise(Kornum_RS_Math::rsStdDev);
@@ -80,12 +80,12 @@ Float MeanOf(const TKorLWordVector& F, Float L, Float W, Int64 N) {
 }  // namespace
 
 Float GroupedMean(const TKorLWordVector& F, Float L, Float W) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     return MeanOf(F, L, W, TotalCount(F));
 }
 
 Float GroupedMedian(const TKorLWordVector& F, Float L, Float W) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Float half = Float(TotalCount(F)) / 2;
     const auto median = InterpolateCount(F, L, W, half);
     if (!median) Platform::Raise<Platform::Exception>(Kornum_RS_Math::rsMedianNotFound);
@@ -93,7 +93,7 @@ Float GroupedMedian(const TKorLWordVector& F, Float L, Float W) {
 }
 
 bool GroupedMode(const TKorLWordVector& F, Float L, Float W, Float& Mode) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     std::int32_t k = 0;
     Cardinal largest = F[0];
     bool tie = false;
@@ -119,7 +119,7 @@ bool GroupedMode(const TKorLWordVector& F, Float L, Float W, Float& Mode) {
 }
 
 void GroupedQuartiles(const TKorLWordVector& F, Float L, Float W, Float& Q1, Float& Q3) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Int64 N = TotalCount(F);
     const auto first = InterpolateCount(F, L, W, Float(N) / 4);
     const auto third = InterpolateCount(F, L, W, Float(3 * N) / 4);
@@ -129,7 +129,7 @@ void GroupedQuartiles(const TKorLWordVector& F, Float L, Float W, Float& Q1, Flo
 }
 
 void GetGroupedDeciles(const TKorLWordVector& F, Float L, Float W, Float* D) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Int64 N = TotalCount(F);
     std::array<Float, 9> deciles;
     for (int j = 1; j <= 9; ++j) {
@@ -140,14 +140,14 @@ void GetGroupedDeciles(const TKorLWordVector& F, Float L, Float W, Float* D) {
 }
 
 Float GroupedSampleVariance(const TKorLWordVector& F, Float L, Float W) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Int64 N = TotalCount(F);
     if (N < 2) return 0;
     return SquaredDeviationSum(F, L, W, MeanOf(F, L, W, N)) / Float(N - 1);
 }
 
 Float GroupedPopulationVariance(const TKorLWordVector& F, Float L, Float W) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Int64 N = TotalCount(F);
     if (N == 0) return 0;
     return SquaredDeviationSum(F, L, W, MeanOf(F, L, W, N)) / Float(N);
@@ -162,7 +162,7 @@ Float GroupedPopulationStdDev(const TKorLWordVector& F, Float L, Float W) {
 }
 
 void GroupedSums(const TKorLWordVector& F, Float L, Float W, Float& SumFM, Float& SumFM2) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Float first = SumOverClasses(F, L, W, [](Float f, Float m) { return f * m; });
     const Float second = SumOverClasses(F, L, W, [](Float f, Float m) { return f * (m * m); });
     SumFM = first;
@@ -170,7 +170,7 @@ void GroupedSums(const TKorLWordVector& F, Float L, Float W, Float& SumFM, Float
 }
 
 Float GetGroupedMeanDev(const TKorLWordVector& F, Float L, Float W, Float Mean) {
-    CheckNotEmpty(F);
+    RequireNotEmpty(F);
     const Int64 N = TotalCount(F);
     return SumOverClasses(F, L, W, [&](Float f, Float m) { return std::fabs(m - Mean) * f; }) /
            Float(N);

@@ -1,5 +1,7 @@
 #include <kornum/OrderStatistics.h>
 
+#include "StatisticsChecks.hpp"
+
 #include <kornum/KornumVector.h>
 #include <kornum/Kornum_RS_Math.h>
 #include <kornum/Kornummath.h>
@@ -17,10 +19,7 @@ using namespace Kornumglobals;
 using Platform::Raise;
 namespace RS = Kornum_RS_Math;
 
-template <class V>
-void RequireNotEmpty(const V& X) {
-    if (X.High() == -1) Raise(RS::rsVectorIsEmpty);
-}
+using detail::RequireNotEmpty;
 
 template <class V>
 Float Median(const V& X) {

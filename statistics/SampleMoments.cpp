@@ -1,5 +1,7 @@
 #include <kornum/SampleMoments.h>
 
+#include "StatisticsChecks.hpp"
+
 #include <kornum/KornumVector.h>
 #include <kornum/Kornum_RS_Math.h>
 #include <kornum/Kornummath.h>
@@ -98,10 +100,7 @@ template <class T> struct DeviationValue { using Type = Float; };
 template <> struct DeviationValue<Double> { using Type = Double; };
 template <> struct DeviationValue<Single> { using Type = Single; };
 
-template <class V>
-void RequireNotEmpty(const V& X) {
-    if (X.High() == -1) Raise(RS::rsVectorIsEmpty);
-}
+using detail::RequireNotEmpty;
 
 template <class V>
 void RequireMoreThanOne(const V& X) {
@@ -241,7 +240,7 @@ namespace {
 // base tolerance; the population forms demand the same sizes as the sample forms.
 void RequireShapeArguments(const TKorFloatVector& X, Float StdDev, int Needed,
                            const Platform::ResourceString& Short) {
-    if (X.Length() < 1) Raise(RS::rsVectorIsEmpty);
+    RequireNotEmpty(X);
     if (X.Length() < Needed) Raise(Short);
     if (Kornummath::FloatIsZero(StdDev)) Raise(RS::rsStdDev);
 }
