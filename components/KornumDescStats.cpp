@@ -135,22 +135,15 @@ void TKorDescStats::SetPopulation(bool B) {
     UpdateStats();
 }
 
-void TKorDescStats::SetValues(const TKorFloatVector& V) {
-    values_ = KornumVector::CopyVector(V);
+void TKorDescStats::ReplaceValues(TKorFloatVector Fresh) {
+    values_ = std::move(Fresh);
     UpdateStats();
 }
-void TKorDescStats::SetLIntValues(const TKorLIntVector& V) {
-    values_ = KornumVector::Vector2FloatVector(V);
-    UpdateStats();
-}
-void TKorDescStats::SetLWordValues(const TKorLWordVector& V) {
-    values_ = KornumVector::Vector2FloatVector(V);
-    UpdateStats();
-}
-void TKorDescStats::SetInt64Values(const TKorInt64Vector& V) {
-    values_ = KornumVector::Vector2FloatVector(V);
-    UpdateStats();
-}
+
+void TKorDescStats::SetValues(const TKorFloatVector& V) { ReplaceValues(KornumVector::CopyVector(V)); }
+void TKorDescStats::SetLIntValues(const TKorLIntVector& V) { ReplaceValues(KornumVector::Vector2FloatVector(V)); }
+void TKorDescStats::SetLWordValues(const TKorLWordVector& V) { ReplaceValues(KornumVector::Vector2FloatVector(V)); }
+void TKorDescStats::SetInt64Values(const TKorInt64Vector& V) { ReplaceValues(KornumVector::Vector2FloatVector(V)); }
 
 void TKorDescStats::GetLIntValues(TKorLIntVector& Result) const { RoundValuesInto(values_, Result); }
 void TKorDescStats::GetLWordValues(TKorLWordVector& Result) const { RoundValuesInto(values_, Result); }

@@ -125,6 +125,8 @@ private:
     TKorFloatVector values_;
 
     void ResetStatistics();
+    // Takes a vector of its own as the values and recomputes.
+    void ReplaceValues(TKorFloatVector Fresh);
 };
 
 }  // namespace KornumDescStats
