@@ -8,6 +8,7 @@ packages=(
   libgtest-dev                    # unit tests
   libbenchmark-dev                # benchmarks
   libboost-dev libgsl-dev         # peers measured in the benchmarks
+  libeigen3-dev
   python3-mpmath                  # regenerating the reference tables
 )
 # With --bench: also what the whole-program benchmark compares against.
@@ -25,5 +26,7 @@ if [ ${#missing[@]} -eq 0 ]; then exit 0; fi
 echo "Installing: ${missing[*]}"
 sudo=""
 if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
-$sudo apt-get update -qq
-DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}" >/dev/null
+# Another install holding the package manager's lock is waited for, not failed on.
+lock_wait=(-o DPkg::Lock::Timeout=900)
+$sudo apt-get "${lock_wait[@]}" update -qq
+DEBIAN_FRONTEND=noninteractive $sudo apt-get "${lock_wait[@]}" install -y -qq "${missing[@]}" >/dev/null

@@ -1,13 +1,11 @@
 // Sorting in place, reversal, and the ranking routines that locate values in a sorted
 // copy.
+#include "QuickSortScheme.hpp"
 #include "VectorElementRules.hpp"
 
 #include <kornum/Kornumsystem.h>
 
 #include <algorithm>
-#include <array>
-#include <cassert>
-#include <cmath>
 #include <vector>
 
 namespace KornumVector {
@@ -15,74 +13,19 @@ namespace KornumVector {
 namespace detail {
 namespace {
 
-// The order of one direction, on the values as read (a packed Float as a Float).
-template <class E, bool Ascending>
-struct Order {
-    static bool Before(ValueOf<E> a, ValueOf<E> b) noexcept { return Ascending ? a < b : b < a; }
+// The elements of a vector as the shared quicksort sees them.
+template <class E>
+struct VectorItems {
+    using Key = ValueOf<E>;
+    E* a;
+    Key KeyAt(Integer i) const noexcept { return a[i]; }
+    void Exchange(Integer i, Integer j) const noexcept { Kornumsystem::SwapXY(a[i], a[j]); }
 };
-
-// Iterative quicksort over positions L..R: middle-element pivot, Hoare scans that stop
-// on elements equal to the pivot and exchange them, and an explicit stack of ranges
-// onto which the larger part goes while the smaller part is sorted at once. Positions
-// here are 0-based; the middle (L + R) div 2 and every comparison of lengths are the
-// same as with 1-based bounds.
-template <class E, bool Ascending>
-void QuickSortDirected(E* a, Integer n) {
-    using O = Order<E, Ascending>;
-    struct Range {
-        Integer L, R;
-    };
-    // Processing the smaller part first keeps the stack within log2(n) ranges, so room
-    // for Round(log2 n) + 2 of them always suffices; it lives in this frame (n < 2^31
-    // needs at most 33).
-    [[maybe_unused]] const Integer capacity = Integer(std::nearbyint(Kornummath::KorLog2(Float(n)))) + 2;
-    std::array<Range, 34> stack;
-    assert(capacity <= Integer(stack.size()));
-    Integer top = 0;
-    stack[top++] = Range{0, n - 1};
-    while (top > 0) {
-        Integer L = stack[--top].L;
-        Integer R = stack[top].R;
-        do {
-            // The scans run on pointers with the pivot held in a register.
-            E* i = a + L;
-            E* j = a + R;
-            const ValueOf<E> P = a[Integer((Cardinal(L) + Cardinal(R)) / 2)];
-            do {
-                while (O::Before(*i, P)) ++i;
-                while (O::Before(P, *j)) --j;
-                if (i <= j) {
-                    Kornumsystem::SwapXY(*i, *j);
-                    ++i;
-                    --j;
-                }
-            } while (i <= j);
-            const Integer iPos = Integer(i - a), jPos = Integer(j - a);
-            if (jPos - L < R - iPos) {
-                if (iPos < R) {
-                    assert(top < capacity);
-                    stack[top++] = Range{iPos, R};
-                }
-                R = jPos;
-            } else {
-                if (jPos > L) {
-                    assert(top < capacity);
-                    stack[top++] = Range{L, jPos};
-                }
-                L = iPos;
-            }
-        } while (L < R);
-    }
-}
 
 template <class E>
 void QuickSort(const TKorVector<E>& V, bool ascending) {
-    const Integer n = V.Length();
-    if (n < 2) return;
-    if (ascending)
-        QuickSortDirected<E, true>(V.data(), n);
-    else
-        QuickSortDirected<E, false>(V.data(), n);
+    VectorItems<E> items{V.data()};
+    QuickSortItems(items, V.Length(), ascending);
 }
 
 template <class E>
