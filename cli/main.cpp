@@ -1,5 +1,6 @@
 // The kornum command-line program.
 #include "DescribeCommand.h"
+#include "MatrixCommand.h"
 
 #include <kornum/KornumPackage.h>
 
@@ -20,6 +21,8 @@ constexpr const char* Usage =
     "Commands:\n"
     "  describe   descriptive statistics of the numbers in files\n"
     "             (kornum describe --help for its options)\n"
+    "  matrix     determinant, inverse, rank, echelon form, transpose and\n"
+    "             product of matrices in files (kornum matrix --help)\n"
     "\n"
     "Options:\n"
     "  --help     show this text and exit\n"
@@ -39,6 +42,8 @@ int main(int argc, char** argv) {
     }
     if (!arguments.empty() && arguments[0] == "describe")
         return KornumCli::RunDescribe({arguments.begin() + 1, arguments.end()});
+    if (!arguments.empty() && arguments[0] == "matrix")
+        return KornumCli::RunMatrix({arguments.begin() + 1, arguments.end()});
     if (arguments.empty()) {
         std::fputs(Usage, stderr);
     } else {

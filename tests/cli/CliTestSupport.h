@@ -1,0 +1,46 @@
+// Running the kornum program as a user runs it, on files made for the test.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace CliTest {
+
+struct Outcome {
+    int status;
+    std::string output;  // standard output and standard error together
+};
+
+inline Outcome RunKornum(const std::string& arguments, const std::string& input = "") {
+    const std::string command = "printf '%s' '" + input + "' | " + KORNUM_CLI_PATH + " " + arguments + " 2>&1";
+    FILE* pipe = popen(command.c_str(), "r");
+    std::string output;
+    char buffer[4096];
+    std::size_t count;
+    while ((count = fread(buffer, 1, sizeof buffer, pipe)) > 0) output.append(buffer, count);
+    const int status = pclose(pipe);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+}
+
+// A fixture with a private directory for input files.
+class CliFiles : public ::testing::Test {
+protected:
+    std::filesystem::path directory = std::filesystem::temp_directory_path() /
+                                      ("kornum-cli-" + std::to_string(::getpid()));
+    void SetUp() override { std::filesystem::create_directories(directory); }
+    void TearDown() override { std::filesystem::remove_all(directory); }
+    std::string File(const std::string& name, const std::string& content) {
+        const auto path = directory / name;
+        std::ofstream(path) << content;
+        return path.string();
+    }
+};
+
+}  // namespace CliTest
