@@ -1,8 +1,12 @@
 // Row echelon form, rank, determinant and inverse.
 #include "MatrixTestSupport.h"
 
+#include <kornum/Kornummath.h>
+
 #include <cmath>
+#include <cstring>
 #include <random>
+#include <tuple>
 
 namespace {
 
@@ -138,6 +142,97 @@ TEST(MatrixReductionAtSize, RandomInverseAndRankDeficiency) {
     // Zero within rounding: against the determinant of the same rows made regular.
     EXPECT_LT(std::fabs(MatrixDeterminant(D2) / MatrixDeterminant(regular)), 1e-15L);
     EXPECT_FALSE(MatrixInverse(D3, Inv));
+}
+
+}  // namespace
+
+namespace {
+
+// The reductions written out step by step with the public row operations, the way the
+// library's reductions are defined: a search for the pivot, an exchange, the scaling of
+// the pivot row in every column, and one AddMatrixRows per row to clear; then for the
+// inverse the same on Inv and the back substitution.
+Float LiteralReduction(TKorFloatMatrix& M, TKorFloatMatrix* Inv) {
+    using Kornummath::FloatIsZero;
+    const int rows = M.Length(), cols = M[0].Length();
+    RectangularCheckScope off(false);
+    Float det = 1;
+    for (int r = 0, c = 0; r < rows && c < cols; ++r, ++c) {
+        int pr = -1, pc = -1;
+        Float largest = 0;
+        for (int col = c; col < cols && pr < 0; ++col)
+            for (int row = r; row < rows; ++row)
+                if (!FloatIsZero(M[row][col]) && std::fabs(Float(M[row][col])) > largest)
+                    largest = std::fabs(Float(M[row][col])), pr = row, pc = col;
+        if (pr < 0) break;
+        if (pr != r) {
+            SwapMatrixRows(M, LongWord(r), LongWord(pr));
+            if (Inv) SwapMatrixRows(*Inv, LongWord(r), LongWord(pr));
+            det = -det;
+        }
+        c = pc;
+        const Float p = M[r][c];
+        if (!FloatIsZero(p - 1)) {
+            ScaleMatrixRow(M, LongWord(r), 1 / p);
+            if (Inv) ScaleMatrixRow(*Inv, LongWord(r), 1 / p);
+            det *= p;
+        }
+        for (int k = r + 1; k < rows; ++k) {
+            const Float f = -Float(M[k][c]);
+            if (FloatIsZero(f)) continue;
+            AddMatrixRows(M, LongWord(k), LongWord(r), f);
+            if (Inv) AddMatrixRows(*Inv, LongWord(k), LongWord(r), f);
+        }
+    }
+    if (Inv)
+        for (int i = rows - 1; i >= 1; --i)
+            for (int k = i - 1; k >= 0; --k) {
+                const Float f = -Float(M[k][i]);
+                if (FloatIsZero(f)) continue;
+                AddMatrixRows(M, LongWord(k), LongWord(i), f);
+                AddMatrixRows(*Inv, LongWord(k), LongWord(i), f);
+            }
+    for (int i = 0; i < std::min(rows, cols); ++i) det *= Float(M[i][i]);
+    return det;
+}
+
+bool SameBits(const TKorFloatMatrix& a, const TKorFloatMatrix& b) {
+    for (int i = 0; i < a.Length(); ++i)
+        if (std::memcmp(a[i].data(), b[i].data(), sizeof(PackedFloat) * std::size_t(a[i].Length())) != 0) return false;
+    return true;
+}
+
+// Sizes across the blocks in which the library applies its row operations, wide and
+// tall shapes, zero columns and dependent rows, and exact ties between candidate pivots.
+TEST(MatrixReductionSteps, EveryReductionIsTheLiteralSequenceToTheBit) {
+    std::mt19937_64 gen(8);
+    std::uniform_int_distribution<int> small(-4, 4);
+    std::uniform_real_distribution<double> uniform(-1, 1);
+    for (auto [rows, cols, integers] : {std::tuple{5, 5, true}, {17, 17, false}, {40, 40, true}, {50, 33, false},
+                                        {33, 50, false}, {70, 70, false}}) {
+        TKorFloatMatrix A = CreateFloatMatrix(LongWord(rows), LongWord(cols));
+        for (int i = 0; i < rows; ++i)
+            for (int j = 0; j < cols; ++j) A[i][j] = integers ? Float(small(gen)) : Float(uniform(gen));
+        for (int i = 0; i < rows; ++i) A[i][cols / 3] = 0;                                   // a zero column
+        for (int j = 0; j < cols; ++j) A[rows - 1][j] = Float(A[0][j]) - Float(A[1][j]);  // a dependent row
+
+        TKorFloatMatrix echelon = CopyMatrix(A), literal = CopyMatrix(A);
+        RowEchelonForm(echelon);
+        LiteralReduction(literal, nullptr);
+        EXPECT_TRUE(SameBits(echelon, literal)) << rows << " x " << cols;
+        if (rows != cols) continue;
+
+        TKorFloatMatrix det = CopyMatrix(A), literalDet = CopyMatrix(A);
+        EXPECT_EQ(MatrixDeterminant(det), LiteralReduction(literalDet, nullptr));
+        // An invertible one: the dependent row replaced.
+        for (int j = 0; j < cols; ++j) A[rows - 1][j] = uniform(gen);
+        for (int i = 0; i < rows; ++i) A[i][cols / 3] = uniform(gen);
+        TKorFloatMatrix M = CopyMatrix(A), literalM = CopyMatrix(A), Inv, literalInv = CreateFloatIdentityMatrix(LongWord(rows));
+        ASSERT_TRUE(MatrixInverse(M, Inv));
+        LiteralReduction(literalM, &literalInv);
+        EXPECT_TRUE(SameBits(M, literalM)) << rows;
+        EXPECT_TRUE(SameBits(Inv, literalInv)) << rows;
+    }
 }
 
 }  // namespace
