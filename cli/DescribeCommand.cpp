@@ -1,10 +1,10 @@
 #include "DescribeCommand.h"
 
+#include "CommandOptions.h"
 #include "NumberReader.h"
 
 #include <kornum/KornumDescStats.h>
 
-#include <charconv>
 #include <cstdio>
 
 namespace KornumCli {
@@ -46,11 +46,8 @@ int RunDescribe(const std::vector<std::string>& arguments) {
         } else if (argument == "--population") {
             population = true;
         } else if (argument == "--decimals") {
-            if (i + 1 == arguments.size()) return UsageError("--decimals needs a number");
-            const std::string& count = arguments[++i];
-            auto [end, error] = std::from_chars(count.data(), count.data() + count.size(), decimals);
-            if (error != std::errc() || end != count.data() + count.size() || decimals < 0 || decimals > 255)
-                return UsageError("--decimals takes a whole number from 0 to 255, not '" + count + "'");
+            const std::string problem = ReadDecimals(arguments, i, decimals);
+            if (!problem.empty()) return UsageError(problem);
         } else if (argument.size() > 1 && argument[0] == '-') {
             return UsageError("unknown option '" + argument + "'");
         } else {

@@ -1,5 +1,6 @@
 #include "MatrixCommand.h"
 
+#include "CommandOptions.h"
 #include "NumberReader.h"
 
 #include <kornum/KornumMatrix.h>
@@ -7,7 +8,6 @@
 #include <kornum/PlatformExceptions.h>
 
 #include <cctype>
-#include <charconv>
 #include <cstdio>
 #include <map>
 
@@ -110,11 +110,8 @@ int RunMatrix(const std::vector<std::string>& arguments) {
             std::fputs(Usage, stdout);
             return 0;
         } else if (argument == "--decimals") {
-            if (i + 1 == arguments.size()) return UsageError("--decimals needs a number");
-            const std::string& count = arguments[++i];
-            auto [end, error] = std::from_chars(count.data(), count.data() + count.size(), decimals);
-            if (error != std::errc() || end != count.data() + count.size() || decimals < 0 || decimals > 255)
-                return UsageError("--decimals takes a whole number from 0 to 255, not '" + count + "'");
+            const std::string problem = ReadDecimals(arguments, i, decimals);
+            if (!problem.empty()) return UsageError(problem);
         } else if (argument.size() > 1 && argument[0] == '-') {
             return UsageError("unknown option '" + argument + "'");
         } else {
