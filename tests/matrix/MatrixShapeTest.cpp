@@ -240,3 +240,25 @@ TYPED_TEST(FloatingMatrixTests, ZeroRowsAndIdentityAreTolerant) {
 }
 
 }  // namespace
+
+namespace {
+
+// Each family has exactly its members: the others do not compile.
+template <class M>
+concept HasProduct = requires(M m) { KornumMatrix::MultiplyMatrices(m, m); };
+template <class M>
+concept HasSum = requires(M m) { KornumMatrix::AddMatrices(m, m); };
+template <class M>
+concept HasZeroRowCount = requires(M m) { KornumMatrix::MatrixZeroRows(m); };
+template <class M>
+concept HasReduction = requires(M m) { KornumMatrix::RowEchelonForm(m); };
+template <class M>
+concept HasSort = requires(M m) { KornumMatrix::QSortMatrixRowsOnCol(m, 0u, true); };
+
+static_assert(HasProduct<TKorSingleMatrix> && !HasProduct<TKorInt64Matrix> && !HasProduct<TKorLIntMatrix>);
+static_assert(HasSum<TKorLIntMatrix> && HasSum<TKorInt64Matrix> && !HasSum<TKorWordMatrix> && !HasSum<TKorByteMatrix>);
+static_assert(HasZeroRowCount<TKorDoubleMatrix> && !HasZeroRowCount<TKorInt64Matrix>);
+static_assert(HasReduction<TKorFloatMatrix> && !HasReduction<TKorLWordMatrix>);
+static_assert(HasSort<TKorSIntMatrix> && !HasSort<TKorCurrencyMatrix>);
+
+}  // namespace
