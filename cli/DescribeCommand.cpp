@@ -6,6 +6,7 @@
 #include <kornum/KornumDescStats.h>
 
 #include <cstdio>
+#include <utility>
 
 namespace KornumCli {
 
@@ -56,23 +57,23 @@ int RunDescribe(const std::vector<std::string>& arguments) {
     }
     if (files.empty()) files.push_back("-");
 
-    std::vector<long double> numbers;
+    Kornumglobals::TKorFloatVector values;
+    Kornumglobals::Integer count = 0;
     try {
-        for (const std::string& file : files) ReadNumbers(ReadSource(file), file, numbers);
+        for (const std::string& file : files) ReadNumbers(ReadSource(file), file, values, count);
     } catch (const InputError& error) {
         std::fprintf(stderr, "kornum describe: %s\n", error.what());
         return 2;
     }
+    values.SetLength(count);
 
-    // One batch: the values go in together, so the statistics are computed once.
-    Kornumglobals::TKorFloatVector values;
-    values.SetLength(static_cast<Kornumglobals::Integer>(numbers.size()));
-    for (std::size_t i = 0; i < numbers.size(); ++i) values[Kornumglobals::Integer(i)] = numbers[i];
+    // One batch: the values go in together, so the statistics are computed once; the
+    // component takes the vector over instead of copying it.
     KornumDescStats::TKorDescStats stats(nullptr);
     stats.SetDecimalPlaces(Kornumglobals::Byte(decimals));
     stats.BeginUpdate();
     stats.SetPopulation(population);
-    stats.SetValues(values);
+    stats.SetValues(std::move(values));
     stats.EndUpdate();
 
     std::fputs(stats.DescStats()->Text().c_str(), stdout);

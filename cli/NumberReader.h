@@ -16,9 +16,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Appends to Values every number in the text, tokens separated by any white space.
-// Source names the text in messages ("-" reads as "standard input").
-void ReadNumbers(const std::string& text, const std::string& source, std::vector<long double>& values);
+// Stores every number in the text, tokens separated by any white space, in Values from
+// position Count on, and advances Count; Values grows as needed (its length may exceed
+// Count). Source names the text in messages ("-" reads as "standard input").
+void ReadNumbers(const std::string& text, const std::string& source, Kornumglobals::TKorFloatVector& values,
+                 Kornumglobals::Integer& count);
 
 // The whole content of a file, or of standard input for "-".
 std::string ReadSource(const std::string& path);

@@ -141,6 +141,10 @@ void TKorDescStats::ReplaceValues(TKorFloatVector Fresh) {
 }
 
 void TKorDescStats::SetValues(const TKorFloatVector& V) { ReplaceValues(KornumVector::CopyVector(V)); }
+void TKorDescStats::SetValues(TKorFloatVector&& V) {
+    if (V.RefCount() > 1) return SetValues(static_cast<const TKorFloatVector&>(V));
+    ReplaceValues(std::move(V));
+}
 void TKorDescStats::SetLIntValues(const TKorLIntVector& V) { ReplaceValues(KornumVector::Vector2FloatVector(V)); }
 void TKorDescStats::SetLWordValues(const TKorLWordVector& V) { ReplaceValues(KornumVector::Vector2FloatVector(V)); }
 void TKorDescStats::SetInt64Values(const TKorInt64Vector& V) { ReplaceValues(KornumVector::Vector2FloatVector(V)); }

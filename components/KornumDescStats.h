@@ -79,6 +79,9 @@ public:
     // Replace the values (integers converted to Float) and recompute. Items is left
     // as it is and no longer mirrors the values until it is set again.
     void SetValues(const TKorFloatVector& V);
+    // Takes V over when it is the only handle of its storage (no copy is made; V is left
+    // empty); a V shared with other handles is copied, as by the overload above.
+    void SetValues(TKorFloatVector&& V);
     void SetLIntValues(const TKorLIntVector& V);
     void SetLWordValues(const TKorLWordVector& V);
     void SetInt64Values(const TKorInt64Vector& V);

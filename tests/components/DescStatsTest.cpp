@@ -116,6 +116,18 @@ TEST(DescStats, KeepsItemsInStepAndConvertsTypedViews) {
     stats.SetInt64Values(TKorInt64Vector{1, 2, 3});
     EXPECT_EQ(stats.Sum(), 6);
 
+    // A vector handed over alone is taken without a copy; one still shared is copied,
+    // so a later change through the other handle does not reach the component.
+    TKorFloatVector sole{1, 2}, shared{5, 7};
+    const TKorFloatVector other = shared;
+    stats.SetValues(std::move(sole));
+    EXPECT_TRUE(sole.IsEmpty());
+    EXPECT_EQ(stats.Mean(), 1.5L);
+    stats.SetValues(std::move(shared));
+    other[0] = 100;
+    EXPECT_FALSE(stats.Values().SharesWith(other));
+    EXPECT_EQ(stats.Mean(), 6);
+
     stats.SetValues(TKorFloatVector{2.5L, 3.5L, -1.5L});
     TKorLIntVector ints{0, 0, 0, 77};
     stats.GetLIntValues(ints);  // rounds ties to even, leaves the rest and the length
