@@ -5,22 +5,35 @@
 
 #include <stdexcept>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace KornumCli {
 
-// A token that is not a number, or a file that cannot be read. The message names the
-// file, the line and the text.
+// A token that is not a number, a missing field, or a file that cannot be read. The
+// message names the file, the line (and the field) and the text.
 class InputError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-// Stores every number in the text, tokens separated by any white space, in Values from
-// position Count on, and advances Count; Values grows as needed (its length may exceed
-// Count). Source names the text in messages ("-" reads as "standard input").
-void ReadNumbers(const std::string& text, const std::string& source, Kornumglobals::TKorFloatVector& values,
-                 Kornumglobals::Integer& count);
+// How a text holds its numbers.
+struct ReadOptions {
+    // 0: every token of the text is a number. N > 0: each non-blank line is a record
+    // and its field N (1-based) is the number; so is field 1 when only a delimiter is set.
+    int field = 0;
+    // The character between the fields of a record; 0 for runs of white space.
+    char delimiter = 0;
+    // Skip the first line of the text.
+    bool header = false;
+
+    bool Records() const noexcept { return field > 0 || delimiter != 0; }
+};
+
+// Stores the numbers of the text in Values from position Count on and advances Count;
+// Values grows as needed (its length may exceed Count). Source names the text in
+// messages ("-" reads as "standard input").
+void ReadNumbers(std::string_view text, const std::string& source, const ReadOptions& options,
+                 Kornumglobals::TKorFloatVector& values, Kornumglobals::Integer& count);
 
 // The whole content of a file, or of standard input for "-".
 std::string ReadSource(const std::string& path);

@@ -23,7 +23,9 @@ TEST_F(DescribeCli, ReportsFilesAndStandardInputAndRejectsBadInputAndOptions) {
     EXPECT_EQ(piped.status, 0);
     EXPECT_NE(piped.output.find("Mean:\t2.0\n"), std::string::npos) << piped.output;
     EXPECT_NE(piped.output.find("Variance:\t0.5\n"), std::string::npos);  // a sample by default
-    EXPECT_EQ(RunKornum("describe -", "").output, "The vector is empty\n");
+    const Outcome empty = RunKornum("describe -", " \n");
+    EXPECT_EQ(empty.status, 2);
+    EXPECT_EQ(empty.output, "kornum describe: no numbers in the input\n");
 
     // Bad input names the file, the line and the text, and prints no report.
     const std::string file = File("bad.txt", "1 2\n3 x4 5\n");
@@ -39,6 +41,41 @@ TEST_F(DescribeCli, ReportsFilesAndStandardInputAndRejectsBadInputAndOptions) {
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.output.rfind("Usage: kornum describe", 0), 0u);
     EXPECT_EQ(RunKornum("--version").output.rfind("kornum ", 0), 0u);
+}
+
+TEST_F(DescribeCli, ReadsOneFieldOfEachRecordAfterAHeader) {
+    // CSV with a header, a blank line, blanks around a field and CRLF line ends.
+    const std::string csv = File("data.csv", "id,flow,note\r\n1,2.5,x\r\n2, 4.5 ,y\r\n\r\n3,6.5,z\r\n");
+    const Outcome outcome = RunKornum("describe --header --delimiter , --field 2 --decimals 2 " + csv);
+    EXPECT_EQ(outcome.status, 0) << outcome.output;
+    EXPECT_NE(outcome.output.find("Number of Values:\t3\nMaximum:\t6.50\n"), std::string::npos) << outcome.output;
+    EXPECT_NE(outcome.output.find("Mean:\t4.50\n"), std::string::npos);
+    // A delimiter alone reads field 1; a tab is written \t; white space separates fields
+    // when only --field is given.
+    EXPECT_NE(RunKornum("describe --delimiter , -", "7,x\n9,y\n").output.find("Sum:\t16.0000\n"), std::string::npos);
+    EXPECT_NE(RunKornum("describe --delimiter '\\t' --field 2 -", "a\t1\nb\t3\n").output.find("Mean:\t2.0000\n"),
+              std::string::npos);
+    EXPECT_NE(RunKornum("describe --field 2 -", "  a   10\nb 20 c\n").output.find("Sum:\t30.0000\n"), std::string::npos);
+
+    const Outcome missing = RunKornum("describe --field 3 --delimiter , " + csv);
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_EQ(missing.output, "kornum describe: " + csv + ":1: field 3: 'note' is not a valid number\n");
+    const Outcome short_line = RunKornum("describe --field 2 -", "1 2\n3\n");
+    EXPECT_EQ(short_line.status, 2);
+    EXPECT_EQ(short_line.output, "kornum describe: standard input:2: field 2: the line has 1 field\n");
+    for (const char* arguments : {"describe --field 0", "describe --field x", "describe --field", "describe --delimiter ab",
+                                  "describe --delimiter"})
+        EXPECT_EQ(RunKornum(arguments, "1").status, 2) << arguments;
+}
+
+TEST_F(DescribeCli, JsonHoldsTheReportWithNullsForMissingStatistics) {
+    const Outcome outcome = RunKornum("describe --json --decimals 1 -", "1 2 4");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output,
+              "{\"count\": 3, \"maximum\": 4.0, \"minimum\": 1.0, \"range\": 3.0, \"sum\": 7.0, "
+              "\"sum_of_squares\": 21.0, \"mean\": 2.3, \"mode\": null, \"median\": 2.0, \"variance\": 2.3, "
+              "\"standard_deviation\": 1.5, \"kurtosis\": null, \"skew\": 0.9, \"first_quartile\": 1.2, "
+              "\"third_quartile\": 3.5, \"interquartile_range\": 2.2}\n");  // quartiles at n / 4 + 1/2: 1.25, 3.5
 }
 
 }  // namespace
