@@ -2,10 +2,11 @@
 
 #include <kornum/KornumVector.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <vector>
+#include <utility>
 
 namespace KornumDescStats::detail {
 namespace {
@@ -16,45 +17,103 @@ using Kornumglobals::TKorFloatVector;
 
 // An 80-bit key whose unsigned order is the numeric order of a canonical, non-NaN
 // Float: positive values get the top bit set, negative values have all bits inverted.
+// A Float's order-preserving key, held in the 10 bytes of the element itself: the
+// significand in bytes 0 to 7 and sign and exponent in bytes 8 and 9, as the value
+// holds them, changed so that comparing the keys as unsigned 80-bit integers (byte 9
+// most significant) orders the values. Negative values have every bit flipped, the
+// others only the sign bit set.
 struct Key {
     std::uint64_t low;   // significand
     std::uint16_t high;  // sign and exponent
 };
 
-constexpr int KeyBytes = 10;
-
-Key ToKey(const PackedFloat& x) {
+Key Load(const PackedFloat& x) {
     Key key;
     std::memcpy(&key.low, x.Bytes, 8);
     std::memcpy(&key.high, x.Bytes + 8, 2);
+    return key;
+}
+void Store(PackedFloat& x, const Key& key) {
+    std::memcpy(x.Bytes, &key.low, 8);
+    std::memcpy(x.Bytes + 8, &key.high, 2);
+}
+
+void ToKey(PackedFloat& x) {
+    Key key = Load(x);
     if (key.high & 0x8000) {
         key.low = ~key.low;
         key.high = std::uint16_t(~key.high);
     } else {
         key.high |= 0x8000;
     }
-    return key;
+    Store(x, key);
 }
 
-PackedFloat FromKey(Key key) {
+void FromKey(PackedFloat& x) {
+    Key key = Load(x);
     if (key.high & 0x8000) {
         key.high &= 0x7FFF;
     } else {
         key.low = ~key.low;
         key.high = std::uint16_t(~key.high);
     }
-    PackedFloat x;
-    std::memcpy(x.Bytes, &key.low, 8);
-    std::memcpy(x.Bytes + 8, &key.high, 2);
-    return x;
+    Store(x, key);
 }
 
-int ByteOf(const Key& key, int index) {
-    return index < 8 ? int(key.low >> (8 * index)) & 0xFF : int(key.high >> (8 * (index - 8))) & 0xFF;
+bool KeyBefore(const PackedFloat& a, const PackedFloat& b) {
+    const Key x = Load(a), y = Load(b);
+    return x.high != y.high ? x.high < y.high : x.low < y.low;
 }
 
-// True when equal values are guaranteed to have equal bytes and every value compares:
-// no NaN, no pair of zeros of different signs, only canonical encodings.
+// Byte `level` of a key counted from the most significant (level 0 is byte 9).
+unsigned DigitOf(const PackedFloat& x, int level) { return x.Bytes[9 - level]; }
+
+// In-place most-significant-digit radix sort of keys (American flag sort): the elements
+// are counted into 256 buckets by one byte, moved into their buckets by following
+// cycles, and each bucket is sorted on the next byte; small ones by insertion. It needs
+// no memory beyond a few counters a level.
+void FlagSort(PackedFloat* a, std::size_t n, int level) {
+    constexpr std::size_t Small = 32;
+    while (n > Small && level < 10) {
+        std::array<std::size_t, 256> count{};
+        for (std::size_t i = 0; i < n; ++i) ++count[DigitOf(a[i], level)];
+        if (std::find(count.begin(), count.end(), n) != count.end()) {
+            ++level;  // one byte shared by all: on to the next
+            continue;
+        }
+        std::array<std::size_t, 256> next, end;
+        std::size_t sum = 0;
+        for (std::size_t b = 0; b < 256; ++b) {
+            next[b] = sum;
+            sum += count[b];
+            end[b] = sum;
+        }
+        for (std::size_t b = 0; b < 256; ++b) {
+            while (next[b] < end[b]) {
+                PackedFloat x = a[next[b]];
+                unsigned d = DigitOf(x, level);
+                while (d != b) {
+                    std::swap(x, a[next[d]++]);
+                    d = DigitOf(x, level);
+                }
+                a[next[b]++] = x;
+            }
+        }
+        std::size_t start = 0;
+        for (std::size_t b = 0; b < 256; ++b) {
+            if (count[b] > 1) FlagSort(a + start, count[b], level + 1);
+            start += count[b];
+        }
+        return;
+    }
+    for (std::size_t i = 1; i < n; ++i) {
+        const PackedFloat x = a[i];
+        std::size_t j = i;
+        for (; j > 0 && KeyBefore(x, a[j - 1]); --j) a[j] = a[j - 1];
+        a[j] = x;
+    }
+}
+
 bool SortsUniquely(const TKorFloatVector& V) {
     bool positiveZero = false, negativeZero = false;
     for (const PackedFloat& x : V) {
@@ -75,20 +134,6 @@ bool SortsUniquely(const TKorFloatVector& V) {
 
 // Least-significant-byte-first radix sort of the keys; a byte that every key shares
 // needs no pass.
-void RadixSort(std::vector<Key>& keys) {
-    std::vector<Key> buffer(keys.size());
-    for (int byte = 0; byte < KeyBytes; ++byte) {
-        std::array<std::size_t, 257> start{};
-        for (const Key& key : keys) ++start[std::size_t(ByteOf(key, byte)) + 1];
-        bool shared = false;
-        for (std::size_t b = 1; b <= 256; ++b) shared |= start[b] == keys.size();
-        if (shared) continue;
-        for (std::size_t b = 1; b <= 256; ++b) start[b] += start[b - 1];
-        for (const Key& key : keys) buffer[start[std::size_t(ByteOf(key, byte))]++] = key;
-        keys.swap(buffer);
-    }
-}
-
 }  // namespace
 
 TKorFloatVector AscendingCopy(const TKorFloatVector& V) {
@@ -97,13 +142,12 @@ TKorFloatVector AscendingCopy(const TKorFloatVector& V) {
         KornumVector::QSortVector(sorted, true);
         return sorted;
     }
-    std::vector<Key> keys;
-    keys.reserve(std::size_t(V.Length()));
-    for (const PackedFloat& x : V) keys.push_back(ToKey(x));
-    RadixSort(keys);
-    TKorFloatVector sorted;
-    sorted.SetLength(V.Length());
-    for (Integer i = 0; i < sorted.Length(); ++i) sorted[i] = FromKey(keys[std::size_t(i)]);
+    TKorFloatVector sorted = KornumVector::CopyVector(V);
+    PackedFloat* a = sorted.data();
+    const std::size_t n = std::size_t(sorted.Length());
+    for (std::size_t i = 0; i < n; ++i) ToKey(a[i]);
+    FlagSort(a, n, 0);
+    for (std::size_t i = 0; i < n; ++i) FromKey(a[i]);
     return sorted;
 }
 

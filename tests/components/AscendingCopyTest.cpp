@@ -49,6 +49,11 @@ TEST(AscendingCopy, EqualsQSortVectorWhereEqualValuesHaveEqualBytes) {
         ExpectSameAsQSort(RandomValues(random, n, {-0.0L, 1e-4950L}));
     }
     ExpectSameAsQSort(TKorFloatVector{});
+    // Measurements: one exponent, values agreeing in their leading bytes, many repeats.
+    TKorFloatVector close;
+    close.SetLength(200000);
+    for (Integer i = 0; i < close.Length(); ++i) close[i] = 1000 + Float(Integer(random() % 30000) - 15000) / 7;
+    ExpectSameAsQSort(close);
 }
 
 TEST(AscendingCopy, KeepsTheArrangementOfNaNsAndMixedZeros) {
