@@ -15,7 +15,8 @@ namespace KornumDescStats::detail {
 // without it); NaNs do not compare at all. Without those, every correct sort gives the
 // same bytes, and an in-place radix sort of order-preserving integer keys gives them
 // in linear time and without extra memory. With any of them present (checked in one
-// pass), QSortVector is used, so that its arrangement of the incomparable or equal-but-different elements is kept.
+// pass), QSortVector is used, so that its arrangement of the incomparable or
+// equal-but-different elements is kept.
 Kornumglobals::TKorFloatVector AscendingCopy(const Kornumglobals::TKorFloatVector& V);
 
 }  // namespace KornumDescStats::detail
