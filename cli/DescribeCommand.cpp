@@ -117,7 +117,7 @@ int RunDescribe(const std::vector<std::string>& arguments) {
     Kornumglobals::TKorFloatVector values;
     Kornumglobals::Integer count = 0;
     try {
-        for (const std::string& file : files) ReadNumbers(ReadSource(file), file, options, values, count);
+        for (const std::string& file : files) ReadFileNumbers(file, options, values, count);
     } catch (const InputError& error) {
         std::fprintf(stderr, "kornum describe: %s\n", error.what());
         return 2;

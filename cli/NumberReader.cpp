@@ -3,7 +3,9 @@
 #include <kornum/Kornumconvert.h>
 #include <kornum/PlatformExceptions.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -119,18 +121,69 @@ void ReadRecords(std::string_view text, std::size_t line, const ReadOptions& opt
 }  // namespace
 
 void ReadNumbers(std::string_view text, const std::string& source, const ReadOptions& options,
-                 TKorFloatVector& values, Integer& count) {
+                 TKorFloatVector& values, Integer& count, std::size_t line) {
     NumberSink sink(text, source, values, count);
-    std::size_t line = 1;
     if (options.header) {
         const std::size_t end = text.find('\n');
         text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
-        line = 2;
+        ++line;
     }
     if (options.Records())
         ReadRecords(text, line, options, sink);
     else
         ReadTokens(text, line, sink);
+}
+
+void ReadFileNumbers(const std::string& path, const ReadOptions& options, TKorFloatVector& values, Integer& count) {
+    struct Descriptor {
+        int number;
+        ~Descriptor() {
+            if (number != STDIN_FILENO) ::close(number);
+        }
+    };
+    const Descriptor file{path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY)};
+    const int descriptor = file.number;
+    if (descriptor < 0) throw InputError(path + ": " + std::strerror(errno));
+    struct stat status;
+    const bool regular = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+
+    // Whole lines a block at a time: what follows the last line end of a block waits
+    // for the next one, and a block without a line end grows until it holds one.
+    std::vector<char> block(std::size_t(8) << 20);
+    std::size_t held = 0, line = 1, readSoFar = 0;
+    ReadOptions blockOptions = options;
+    bool ended = false;
+    while (!ended) {
+        if (held == block.size()) block.resize(block.size() * 2);
+        const ssize_t got = ::read(descriptor, block.data() + held, block.size() - held);
+        if (got < 0) {
+            if (errno == EINTR) continue;
+            throw InputError(Describe(path) + ": " + std::strerror(errno));
+        }
+        ended = got == 0;
+        held += std::size_t(got);
+        readSoFar += std::size_t(got);
+        std::size_t usable = held;
+        if (!ended) {
+            const void* last = ::memrchr(block.data(), '\n', held);
+            if (last == nullptr) continue;
+            usable = std::size_t(static_cast<const char*>(last) - block.data()) + 1;
+        }
+        const std::string_view text(block.data(), usable);
+        if (line == 1 && regular && readSoFar < std::size_t(status.st_size) && usable > 0) {
+            // A file's first block shows how densely it holds its lines: room for the
+            // whole file at that density, plus a little, saves growing by copies.
+            const double perByte = double(std::count(text.begin(), text.end(), '\n') + 1) / double(usable);
+            const double estimate = double(count) + perByte * double(status.st_size) * 1.02 + 16;
+            if (estimate < double(INT32_MAX) && estimate > double(values.Length()))
+                values.SetLength(Integer(estimate));
+        }
+        ReadNumbers(text, path, blockOptions, values, count, line);
+        line += std::size_t(std::count(text.begin(), text.end(), '\n'));
+        blockOptions.header = false;
+        std::memmove(block.data(), block.data() + usable, held - usable);
+        held -= usable;
+    }
 }
 
 std::string ReadSource(const std::string& path) {

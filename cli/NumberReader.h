@@ -32,8 +32,14 @@ struct ReadOptions {
 // Stores the numbers of the text in Values from position Count on and advances Count;
 // Values grows as needed (its length may exceed Count). Source names the text in
 // messages ("-" reads as "standard input").
+// Line is the number of the text's first line.
 void ReadNumbers(std::string_view text, const std::string& source, const ReadOptions& options,
-                 Kornumglobals::TKorFloatVector& values, Kornumglobals::Integer& count);
+                 Kornumglobals::TKorFloatVector& values, Kornumglobals::Integer& count, std::size_t line = 1);
+
+// The same for the numbers of a file, or of standard input for "-", read in blocks of
+// whole lines, so that a large file is never held whole.
+void ReadFileNumbers(const std::string& path, const ReadOptions& options, Kornumglobals::TKorFloatVector& values,
+                     Kornumglobals::Integer& count);
 
 // The whole content of a file, or of standard input for "-".
 std::string ReadSource(const std::string& path);

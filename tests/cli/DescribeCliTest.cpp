@@ -68,6 +68,19 @@ TEST_F(DescribeCli, ReadsOneFieldOfEachRecordAfterAHeader) {
         EXPECT_EQ(RunKornum(arguments, "1").status, 2) << arguments;
 }
 
+// A file larger than one read block: lines cut by a block's end are read whole, and
+// line numbers run on across blocks.
+TEST_F(DescribeCli, ReadsLargeFilesInBlocksOfWholeLines) {
+    std::string text;
+    for (int i = 0; i < 3'000'000; ++i) text += "12\n";
+    const std::string good = File("large.txt", text);
+    const Outcome outcome = RunKornum("describe --decimals 0 " + good);
+    EXPECT_NE(outcome.output.find("Number of Values:\t3000000\nMaximum:\t12\n"), std::string::npos) << outcome.output;
+    EXPECT_NE(outcome.output.find("Sum:\t36000000\n"), std::string::npos);
+    const std::string bad = File("bad.txt", text + "1x\n");
+    EXPECT_EQ(RunKornum("describe " + bad).output, "kornum describe: " + bad + ":3000001: '1x' is not a valid number\n");
+}
+
 TEST_F(DescribeCli, JsonHoldsTheReportWithNullsForMissingStatistics) {
     const Outcome outcome = RunKornum("describe --json --decimals 1 -", "1 2 4");
     EXPECT_EQ(outcome.status, 0);
