@@ -111,11 +111,14 @@ Float Str2Float(std::string_view S) {
 
     Float value = 0;
     if (ReadSimpleDecimal(number, value)) return negative ? -value : value;
-    auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value,
-                                        std::chars_format::general);
+    // The library's from_chars for long double reads its text as a C string, past the
+    // given end: it gets a terminated copy.
+    const std::string terminated(number);
+    const char* const stop = terminated.data() + terminated.size();
+    auto [end, error] = std::from_chars(terminated.data(), stop, value, std::chars_format::general);
     if (error == std::errc::result_out_of_range)
         throw Platform::EConvertError("'" + std::string(S) + "' is out of the range of Float");
-    if (error != std::errc() || end != number.data() + number.size()) RaiseNotANumber(S);
+    if (error != std::errc() || end != stop) RaiseNotANumber(S);
     return negative ? -value : value;
 }
 

@@ -13,9 +13,9 @@ for bench in build-bench/bench/kornum_*_bench; do
   echo "== $(basename "$bench")"
   "$bench" $quick
 done
-echo "== kornum describe beside NumPy loadtxt and SciPy describe"
+echo "== kornum describe beside NumPy loadtxt with SciPy describe, and GNU datamash"
 if [ -n "$quick" ]; then
   python3 bench/describe_vs_scipy.py build-bench/cli/kornum 10000 1
 else
-  python3 bench/describe_vs_scipy.py build-bench/cli/kornum 1000000 5
+  python3 bench/describe_vs_scipy.py build-bench/cli/kornum 1000000 5 --large
 fi

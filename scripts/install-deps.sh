@@ -13,7 +13,11 @@ packages=(
 )
 # With --bench: also what the whole-program benchmark compares against.
 if [ "${1:-}" = "--bench" ]; then
-  packages+=(python3-numpy python3-scipy)
+  packages+=(python3-numpy python3-scipy datamash time)
+fi
+# With --fuzz: clang and its fuzzing runtime.
+if [ "${1:-}" = "--fuzz" ]; then
+  packages+=(clang libclang-rt-14-dev)
 fi
 
 missing=()
