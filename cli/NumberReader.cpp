@@ -11,7 +11,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <exception>
 #include <memory>
+#include <thread>
 #include <vector>
 
 namespace KornumCli {
@@ -134,6 +136,47 @@ void ReadNumbers(std::string_view text, const std::string& source, const ReadOpt
         ReadTokens(text, line, sink);
 }
 
+namespace {
+
+// A block of whole lines. A large one is cut at a line end near its middle and the two
+// halves are read at once, the second into a vector of its own that is then appended;
+// a failure in the first half is the one reported, as it comes first in the text.
+void ReadBlock(std::string_view text, const std::string& path, const ReadOptions& options, TKorFloatVector& values,
+               Integer& count, std::size_t line) {
+    constexpr std::size_t Parallel = std::size_t(1) << 20;
+    const std::size_t cut = text.size() < Parallel ? std::string_view::npos : text.find('\n', text.size() / 2);
+    if (cut == std::string_view::npos || options.header) {
+        ReadNumbers(text, path, options, values, count, line);
+        return;
+    }
+    const std::string_view first = text.substr(0, cut + 1), second = text.substr(cut + 1);
+    const std::size_t secondLine = line + std::size_t(std::count(first.begin(), first.end(), '\n'));
+    TKorFloatVector rest;
+    Integer restCount = 0;
+    std::exception_ptr restFailure;
+    std::thread reader([&] {
+        try {
+            ReadNumbers(second, path, options, rest, restCount, secondLine);
+        } catch (...) {
+            restFailure = std::current_exception();
+        }
+    });
+    try {
+        ReadNumbers(first, path, options, values, count, line);
+    } catch (...) {
+        reader.join();
+        throw;
+    }
+    reader.join();
+    if (restFailure) std::rethrow_exception(restFailure);
+    if (std::size_t(count) + std::size_t(restCount) > std::size_t(values.Length()))
+        values.SetLength(Integer(std::max(std::size_t(count) + std::size_t(restCount), std::size_t(values.Length()) * 3 / 2)));
+    std::copy(rest.data(), rest.data() + restCount, values.data() + count);
+    count += restCount;
+}
+
+}  // namespace
+
 void ReadFileNumbers(const std::string& path, const ReadOptions& options, TKorFloatVector& values, Integer& count) {
     struct Descriptor {
         int number;
@@ -178,7 +221,7 @@ void ReadFileNumbers(const std::string& path, const ReadOptions& options, TKorFl
             if (estimate < double(INT32_MAX) && estimate > double(values.Length()))
                 values.SetLength(Integer(estimate));
         }
-        ReadNumbers(text, path, blockOptions, values, count, line);
+        ReadBlock(text, path, blockOptions, values, count, line);
         line += std::size_t(std::count(text.begin(), text.end(), '\n'));
         blockOptions.header = false;
         std::memmove(block.data(), block.data() + usable, held - usable);

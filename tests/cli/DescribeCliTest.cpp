@@ -79,6 +79,15 @@ TEST_F(DescribeCli, ReadsLargeFilesInBlocksOfWholeLines) {
     EXPECT_NE(outcome.output.find("Sum:\t36000000\n"), std::string::npos);
     const std::string bad = File("bad.txt", text + "1x\n");
     EXPECT_EQ(RunKornum("describe " + bad).output, "kornum describe: " + bad + ":3000001: '1x' is not a valid number\n");
+    // A large block is read in two halves at once: the first failure in the text is named.
+    for (const int line : {1'000'000, 2'000'000}) {
+        std::string flawed = text;
+        flawed.replace(std::size_t(line - 1) * 3, 2, "x0");
+        flawed.replace(std::size_t(2'500'000) * 3, 2, "yy");
+        const std::string path = File("flawed.txt", flawed);
+        EXPECT_EQ(RunKornum("describe " + path).output,
+                  "kornum describe: " + path + ":" + std::to_string(line) + ": 'x0' is not a valid number\n");
+    }
 }
 
 TEST_F(DescribeCli, JsonHoldsTheReportWithNullsForMissingStatistics) {
