@@ -192,13 +192,16 @@ void ReadFileNumbers(const std::string& path, const ReadOptions& options, TKorFl
 
     // Whole lines a block at a time: what follows the last line end of a block waits
     // for the next one, and a block without a line end grows until it holds one.
-    std::vector<char> block(std::size_t(8) << 20);
+    // (held in a library vector, whose large storage takes huge pages)
+    Kornumglobals::TKorByteVector storage;
+    storage.SetLength(Integer(8) << 20);
+    const auto block = [&storage] { return reinterpret_cast<char*>(storage.data()); };
     std::size_t held = 0, line = 1, readSoFar = 0;
     ReadOptions blockOptions = options;
     bool ended = false;
     while (!ended) {
-        if (held == block.size()) block.resize(block.size() * 2);
-        const ssize_t got = ::read(descriptor, block.data() + held, block.size() - held);
+        if (held == std::size_t(storage.Length())) storage.SetLength(storage.Length() * 2);
+        const ssize_t got = ::read(descriptor, block() + held, std::size_t(storage.Length()) - held);
         if (got < 0) {
             if (errno == EINTR) continue;
             throw InputError(Describe(path) + ": " + std::strerror(errno));
@@ -208,11 +211,11 @@ void ReadFileNumbers(const std::string& path, const ReadOptions& options, TKorFl
         readSoFar += std::size_t(got);
         std::size_t usable = held;
         if (!ended) {
-            const void* last = ::memrchr(block.data(), '\n', held);
+            const void* last = ::memrchr(block(), '\n', held);
             if (last == nullptr) continue;
-            usable = std::size_t(static_cast<const char*>(last) - block.data()) + 1;
+            usable = std::size_t(static_cast<const char*>(last) - block()) + 1;
         }
-        const std::string_view text(block.data(), usable);
+        const std::string_view text(block(), usable);
         if (line == 1 && regular && readSoFar < std::size_t(status.st_size) && usable > 0) {
             // A file's first block shows how densely it holds its lines: room for the
             // whole file at that density, plus a little, saves growing by copies.
@@ -224,7 +227,7 @@ void ReadFileNumbers(const std::string& path, const ReadOptions& options, TKorFl
         ReadBlock(text, path, blockOptions, values, count, line);
         line += std::size_t(std::count(text.begin(), text.end(), '\n'));
         blockOptions.header = false;
-        std::memmove(block.data(), block.data() + usable, held - usable);
+        std::memmove(block(), block() + usable, held - usable);
         held -= usable;
     }
 }
