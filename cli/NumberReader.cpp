@@ -150,7 +150,12 @@ void ReadBlock(std::string_view text, const std::string& path, const ReadOptions
         return;
     }
     const std::string_view first = text.substr(0, cut + 1), second = text.substr(cut + 1);
-    const std::size_t secondLine = line + std::size_t(std::count(first.begin(), first.end(), '\n'));
+    const std::size_t firstLines = std::size_t(std::count(first.begin(), first.end(), '\n'));
+    const std::size_t secondLine = line + firstLines;
+    // Room for a number a line in the whole block, so that the second half's numbers
+    // usually join the first's without the vector growing.
+    const std::size_t room = std::size_t(count) + firstLines + std::size_t(std::count(second.begin(), second.end(), '\n')) + 1;
+    if (room > std::size_t(values.Length()) && room < std::size_t(INT32_MAX)) values.SetLength(Integer(room));
     TKorFloatVector rest;
     Integer restCount = 0;
     std::exception_ptr restFailure;
