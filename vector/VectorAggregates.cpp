@@ -1,22 +1,10 @@
 // Sums, sums of squares, extreme values and sign tests of one vector.
-#include "VectorElementRules.hpp"
+#include "VectorAlgorithms.hpp"
 
 namespace KornumVector {
 
 namespace detail {
 namespace {
-
-// The accumulator starts at the first term and adds the rest in index order.
-template <class E, class Term>
-typename ElementRules<E>::Sum Accumulate(const TKorVector<E>& V, Term term) {
-    using R = ElementRules<E>;
-    RequireNotEmpty(V);
-    const E* data = V.data();
-    const Integer n = V.Length();
-    typename R::Sum sum = term(ValueOf<E>(data[0]));
-    for (Integer i = 1; i < n; ++i) sum = R::Add(sum, term(ValueOf<E>(data[i])));
-    return sum;
-}
 
 template <class E>
 typename ElementRules<E>::Sum Sum(const TKorVector<E>& V) {
@@ -48,56 +36,6 @@ Float SumSqDiffInFloat(const TKorVector<E>& V, Float Value) {
         sum += d * d;
     }
     return sum;
-}
-
-// Keeps the first of equal extremes: only a strictly better element replaces it.
-template <class E, class Better>
-ValueOf<E> Extreme(const TKorVector<E>& V, Better better) {
-    RequireNotEmpty(V);
-    const E* data = V.data();
-    const Integer n = V.Length();
-    ValueOf<E> m = data[0];
-    for (Integer i = 1; i < n; ++i) {
-        const ValueOf<E> x = data[i];
-        if (better(x, m)) m = x;
-    }
-    return m;
-}
-
-// One pass for both extremes. The results go to locals first, so the outputs are
-// written only after the vector has been checked.
-template <class E>
-void MinMax(const TKorVector<E>& V, ValueOf<E>& MinValue, ValueOf<E>& MaxValue, Cardinal& MinIndex,
-            Cardinal& MaxIndex, Boolean& MinUnique, Boolean& MaxUnique) {
-    RequireNotEmpty(V);
-    const E* data = V.data();
-    const Integer n = V.Length();
-    ValueOf<E> lo = data[0], hi = lo;
-    Integer loIndex = 0, hiIndex = 0;
-    bool loUnique = true, hiUnique = true;
-    for (Integer i = 1; i < n; ++i) {
-        const ValueOf<E> x = data[i];
-        if (x < lo) {
-            lo = x;
-            loIndex = i;
-            loUnique = true;
-        } else if (x == lo) {
-            loUnique = false;
-        }
-        if (x > hi) {
-            hi = x;
-            hiIndex = i;
-            hiUnique = true;
-        } else if (x == hi) {
-            hiUnique = false;
-        }
-    }
-    MinValue = lo;
-    MaxValue = hi;
-    MinIndex = Cardinal(loIndex);
-    MaxIndex = Cardinal(hiIndex);
-    MinUnique = loUnique;
-    MaxUnique = hiUnique;
 }
 
 }  // namespace

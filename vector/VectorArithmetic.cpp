@@ -1,6 +1,6 @@
 // Element-wise arithmetic between vectors, products and distances, magnitude and
 // angle, in-place transforms, the moving average and polynomial evaluation.
-#include "VectorElementRules.hpp"
+#include "VectorAlgorithms.hpp"
 
 #include <cmath>
 
@@ -105,35 +105,6 @@ Float Angle(const TKorVector<E>& V1, const TKorVector<E>& V2) {
     const Float m1 = Magnitude(V1), m2 = Magnitude(V2);
     if (!(m1 > 0 && m2 > 0)) Platform::Raise(rsMagZero);
     return Kornummath::KorArcCos(Float(DotProduct(V1, V2)) / (m1 * m2));
-}
-
-// ---- Element-wise pairs ------------------------------------------------------------------
-
-template <class E, class Op>
-TKorVector<E> PairToNew(const TKorVector<E>& V1, const TKorVector<E>& V2, Op op) {
-    RequireSameLength(V1, V2);
-    TKorVector<E> result;
-    const Integer n = V1.Length();
-    result.SetLength(n);
-    for (Integer i = 0; i < n; ++i) result[i] = E(op(ValueOf<E>(V1[i]), ValueOf<E>(V2[i])));
-    return result;
-}
-
-template <class E, class Op>
-void PairInPlace(const TKorVector<E>& V1, const TKorVector<E>& V2, Op op) {
-    RequireSameLength(V1, V2);
-    const Integer n = V1.Length();
-    for (Integer i = 0; i < n; ++i) V1[i] = E(op(ValueOf<E>(V1[i]), ValueOf<E>(V2[i])));
-}
-
-// ---- In-place transforms -------------------------------------------------------------------
-
-// Rewrites every element from index 0 upwards; callers validate first.
-template <class E, class F>
-void Rewrite(const TKorVector<E>& V, F f) {
-    E* data = V.data();
-    const Integer n = V.Length();
-    for (Integer i = 0; i < n; ++i) data[i] = E(f(ValueOf<E>(data[i])));
 }
 
 template <class E>

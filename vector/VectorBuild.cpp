@@ -1,58 +1,10 @@
 // Construction, resizing, filling, copies and conversions of vectors.
-#include "VectorElementRules.hpp"
+#include "VectorAlgorithms.hpp"
 
 namespace KornumVector {
 
 namespace detail {
 namespace {
-
-template <class E>
-void Append(TKorVector<E>& V, ValueOf<E> Value) {
-    const Integer n = V.Length();
-    V.SetLength(n + 1);
-    V[n] = Value;
-}
-
-template <class E>
-void Insert(TKorVector<E>& V, ValueOf<E> Value, Integer Index) {
-    if (Index < 0 || Index > V.High()) {
-        Append(V, Value);  // a bad index appends, by contract
-        return;
-    }
-    const Integer n = V.Length();
-    V.SetLength(n + 1);
-    for (Integer i = n; i > Index; --i) V[i] = V[i - 1];
-    V[Index] = Value;
-}
-
-// The shift happens before the vector is shortened, so a vector whose storage is
-// shared sees the shift through every handle while only V loses its last element.
-template <class E>
-void Delete(TKorVector<E>& V, Integer Index) {
-    const Integer high = V.High();
-    if (Index < 0 || Index > high) return;  // a bad index is ignored, by contract
-    if (high == 0) {
-        V.SetLength(0);
-        return;
-    }
-    for (Integer i = Index; i < high; ++i) V[i] = V[i + 1];
-    V.SetLength(high);
-}
-
-template <class E>
-void Fill(const TKorVector<E>& V, ValueOf<E> Value) {
-    const E stored = E(Value);
-    E* data = V.data();
-    const Integer n = V.Length();
-    for (Integer i = 0; i < n; ++i) data[i] = stored;
-}
-
-// Converting by value: unsigned sources zero-extend, signed ones sign-extend, and every
-// source type converts to Float exactly.
-template <class To, class From>
-TKorVector<To> Convert(const TKorVector<From>& V) {
-    return MapToNew<To>(V, [](const From& x) { return ValueOf<To>(ValueOf<From>(x)); });
-}
 
 template <class To, class From>
 TKorVector<To> ConvertArray(const From* A, Integer AHigh) {

@@ -11,13 +11,19 @@
 //                  of the product in SquareWidth and widen those
 //   Difference(a, b)  a - b in the element's own width (integers wrap)
 //   Same(a, b)     the equality of the ranking routines
+//   SameIsAnInterval(V)  whether, for each value, the values the Same as it form one
+//                  interval of the order, so that ranking may search a sorted copy
+//                  (false with a NaN among floating values)
+//   Swap(a, b)     the exchange of two stored elements in the sorts
 #pragma once
 
 #include <kornum/KornumVector.h>
 #include <kornum/Kornum_RS_Math.h>
 #include <kornum/Kornummath.h>
+#include <kornum/Kornumsystem.h>
 #include <kornum/Platform.h>
 
+#include <algorithm>
 #include <type_traits>
 
 namespace KornumVector::detail {
@@ -63,6 +69,12 @@ struct FloatingRules {
     static Float Square(Value x) noexcept { return Float(x) * Float(x); }
     static Value Difference(Value a, Value b) noexcept { return a - b; }
     static bool Same(Value a, Value b) noexcept { return Kornummath::SameFloat(a, b); }
+    template <class E>
+    static bool SameIsAnInterval(const TKorVector<E>& values) noexcept {
+        return std::none_of(values.begin(), values.end(), [](const E& x) { return Value(x) != Value(x); });
+    }
+    template <class E>
+    static void Swap(E& a, E& b) noexcept { Kornumsystem::SwapXY(a, b); }
 };
 
 template <class I, class SquareW>
@@ -76,6 +88,8 @@ struct IntegerRules {
     static Int64 Square(Value x) noexcept { return NarrowSquare<SquareWidth>(x); }
     static Value Difference(Value a, Value b) noexcept { return WrapSub(a, b); }
     static bool Same(Value a, Value b) noexcept { return a == b; }
+    static bool SameIsAnInterval(const TKorVector<I>&) noexcept { return true; }
+    static void Swap(I& a, I& b) noexcept { Kornumsystem::SwapXY(a, b); }
 };
 
 template <class E>
