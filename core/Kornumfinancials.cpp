@@ -76,6 +76,7 @@ KorCurrency Float2KorCurrency(Float X) {
 KorLongCurrency Float2KorLongCurrency(Float X) {
     return ScaleFloat<KorLongCurrency>(X, KorLongCurrencyScale, "KorLongCurrency");
 }
+Currency Float2Currency(Float X) { return Currency::FromRaw(ScaleFloat<Int64>(X, CurrencyScale, "Currency")); }
 KorCurrency Currency2KorCurrency(Currency X) {
     return Narrow<KorCurrency>(DivideHalfEven(X.Raw, CurrencyScale / KorCurrencyScale), Currency2Float(X),
                                "KorCurrency");

@@ -23,6 +23,7 @@ Float Currency2Float(KorCurrency X);
 
 KorCurrency Float2KorCurrency(Float X);
 KorLongCurrency Float2KorLongCurrency(Float X);
+Currency Float2Currency(Float X);
 KorCurrency Currency2KorCurrency(Currency X);
 KorLongCurrency Currency2KorLongCurrency(Currency X);
 Currency KorCurrency2Currency(KorCurrency X);

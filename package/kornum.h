@@ -17,6 +17,7 @@
 #include <kornum/KornumVector.h>
 #include <kornum/KornumStatistics.h>
 #include <kornum/KornumMatrix.h>
+#include <kornum/KornumFinVector.h>
 #include <kornum/KornumDescStats.h>
 #include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/KornumPackage.h>

@@ -1,0 +1,81 @@
+// The element rules of the three currency members: KorCurrency (hundredths in 32 bits),
+// KorLongCurrency (millionths in 64 bits) and Currency (ten-thousandths in 64 bits). They
+// are rules tables of the same vector and matrix algorithms as the numeric members; the
+// differences of the currency members are all here. Internal to the library.
+#pragma once
+
+#include "VectorElementRules.hpp"
+
+#include <kornum/Kornumfinancials.h>
+
+#include <cmath>
+
+namespace KornumVector::detail {
+
+// A Float rounded to the nearest integer, ties to even (the processor's rounding).
+inline Int64 RoundToStored(Float x) noexcept { return std::llrint(x); }
+
+// What the three share: exact comparisons, the currency module's swap, and the two
+// integer members' ranking equality, SameCurrency of the stored integer taken as a whole
+// amount (times 10,000, wrapping in 64 bits).
+template <class Stored>
+struct CurrencyRulesBase {
+    using Value = Stored;
+    static constexpr bool Floating = false;
+    static void Swap(Stored& a, Stored& b) noexcept { Kornumfinancials::SwapXY(a, b); }
+    static Currency AsWholeAmount(Stored x) noexcept { return Currency::FromRaw(WrapMul(Int64(x), Int64(10000))); }
+    static bool Same(Stored a, Stored b) { return Kornumfinancials::SameCurrency(AsWholeAmount(a), AsWholeAmount(b)); }
+    static Float Amount(Stored x) { return Kornumfinancials::Currency2Float(x); }
+    // Exact sign tests.
+    static bool FailsZero(Stored x) noexcept { return x != 0; }
+    static bool FailsNonZero(Stored x) noexcept { return x == 0; }
+    static bool FailsPositive(Stored x) noexcept { return x <= 0; }
+    static bool FailsNonNegative(Stored x) noexcept { return x < 0; }
+};
+
+// KorCurrency sums wrap in 32 bits and stay KorCurrency (the numeric Integer member
+// widens to Int64 instead).
+struct KorCurrencyRules : CurrencyRulesBase<KorCurrency> {
+    using Sum = KorCurrency;
+    static KorCurrency Widen(KorCurrency x) noexcept { return x; }
+    static KorCurrency Add(KorCurrency s, KorCurrency t) noexcept { return WrapAdd(s, t); }
+    static KorCurrency FromAmount(Float a) { return Kornumfinancials::Float2KorCurrency(a); }
+    // Every 32-bit value times 10,000 fits 64 bits: the equality is exact.
+    static bool SameIsAnInterval(const TKorVector<KorCurrency>&) noexcept { return true; }
+};
+
+struct KorLongCurrencyRules : CurrencyRulesBase<KorLongCurrency> {
+    using Sum = KorLongCurrency;
+    static KorLongCurrency Widen(KorLongCurrency x) noexcept { return x; }
+    static KorLongCurrency Add(KorLongCurrency s, KorLongCurrency t) noexcept { return WrapAdd(s, t); }
+    static KorLongCurrency FromAmount(Float a) { return Kornumfinancials::Float2KorLongCurrency(a); }
+    // Times 10,000 wraps beyond 2^63 / 10,000, and then values 2^60 apart compare the
+    // same: the ranking searches a sorted copy only while every value is below 2^59.
+    static bool SameIsAnInterval(const TKorVector<KorLongCurrency>& values) noexcept {
+        constexpr Int64 Bound = Int64(1) << 59;
+        return std::all_of(values.begin(), values.end(), [](Int64 x) { return x > -Bound && x < Bound; });
+    }
+};
+
+// Currency sums run in Float and are rounded back to a stored amount after every step;
+// its sign tests are the tolerant Float ones on the amount.
+struct CurrencyRules : CurrencyRulesBase<Currency> {
+    using Sum = Currency;
+    static Currency Widen(Currency x) noexcept { return x; }
+    static Currency Add(Currency s, Currency t) noexcept {
+        return Currency::FromRaw(RoundToStored(Float(s.Raw) + Float(t.Raw)));
+    }
+    static bool Same(Currency a, Currency b) { return Kornumfinancials::SameCurrency(a, b); }
+    static bool SameIsAnInterval(const TKorVector<Currency>&) noexcept { return true; }
+    static bool FailsZero(Currency x) { return !Kornummath::FloatIsZero(Amount(x)); }
+    static bool FailsNonZero(Currency x) { return Kornummath::FloatIsZero(Amount(x)); }
+    static bool FailsPositive(Currency x) { return !Kornummath::FloatIsPositive(Amount(x)); }
+    static bool FailsNonNegative(Currency x) { return Kornummath::FloatIsNegative(Amount(x)); }
+};
+
+// Currency is a type of its own, so the algorithms that take their rules from the
+// element type find these.
+template <>
+struct ElementRules<Currency> : CurrencyRules {};
+
+}  // namespace KornumVector::detail
