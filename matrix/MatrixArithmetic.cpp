@@ -1,6 +1,6 @@
 // Sums and differences, constant multiples, the linear transform, the grand mean, the
 // row and column operations, and the element-wise functions of the floating members.
-#include "MatrixRules.hpp"
+#include "MatrixAlgorithms.hpp"
 
 #include <cmath>
 
@@ -11,66 +11,6 @@ namespace {
 using Kornum_RS_Math::rsMatrixNeg;
 using Kornum_RS_Math::rsMatrixNotPos;
 using Kornum_RS_Math::rsMatrixZero;
-using Kornum_RS_Math::rsSameDimensions;
-
-// The checks of the sums and differences: X's own size read directly (no rows, or an
-// empty row 0, is empty), then one rectangular shape shared by both.
-template <class Module, class E>
-void RequireSameShape(const Matrix<E>& X, const Matrix<E>& Y) {
-    Require(X.Length() > 0 && X[0].Length() > 0, rsMatrixIsEmpty);
-    const Shape a = Dimensions<Module>(X), b = Dimensions<Module>(Y);
-    Require(a.Rectangular && b.Rectangular && a.Rows == b.Rows && a.Cols == b.Cols, rsSameDimensions);
-}
-
-// Every element of Into becomes combine(X element, Y element), over X's shape.
-template <class E, class Combine>
-void CombineInto(const Matrix<E>& Into, const Matrix<E>& X, const Matrix<E>& Y, Combine combine) {
-    const LongWord cols = LongWord(X[0].Length());
-    for (Integer i = 0; i < X.Length(); ++i) {
-        E* to = Into[i].data();
-        const E* x = X[i].data();
-        const E* y = Y[i].data();
-        const Integer n = Span(Into[i], LongWord(Span(X[i], LongWord(Span(Y[i], cols)))));
-        for (Integer j = 0; j < n; ++j) to[j] = combine(ValueOf<E>(x[j]), ValueOf<E>(y[j]));
-    }
-}
-
-template <class Module, class E, class Combine>
-Matrix<E> Combined(const Matrix<E>& X, const Matrix<E>& Y, Combine combine) {
-    RequireSameShape<Module>(X, Y);
-    Matrix<E> result;
-    result.SetLength(X.Length());
-    for (Integer i = 0; i < X.Length(); ++i) result[i].SetLength(X[0].Length());
-    CombineInto(result, X, Y, combine);
-    return result;
-}
-
-template <class Module, class E, class Combine>
-void CombineInPlace(const Matrix<E>& X, const Matrix<E>& Y, Combine combine) {
-    RequireSameShape<Module>(X, Y);
-    CombineInto(X, X, Y, combine);
-}
-
-// Every element, row by row at each row's own length, replaced by map(element). A map
-// that raises stops the walk there; the elements before keep their new values.
-template <class E, class Map>
-void MapEachInPlace(const Matrix<E>& X, Map map) {
-    RequireRows(X);
-    for (Integer i = 0; i < X.Length(); ++i) {
-        E* row = X[i].data();
-        for (Integer j = 0; j < X[i].Length(); ++j) row[j] = map(ValueOf<E>(row[j]));
-    }
-}
-
-template <class E>
-Matrix<E> ConstMultiple(const Matrix<E>& X, typename MatrixArithmetic<E>::Factor c) {
-    RequireRows(X);
-    Matrix<E> result;
-    result.SetLength(X.Length());
-    for (Integer i = 0; i < X.Length(); ++i)
-        result[i] = MapToNew<E>(X[i], [c](const E& x) { return MatrixArithmetic<E>::Scale(c, x); });
-    return result;
-}
 
 template <class E>
 Float GrandMeanOf(const Matrix<E>& X, LongWord& N) {
@@ -176,7 +116,9 @@ using detail::NumericModule;
     void SubtractFromMatrix(MT& X, const MT& Y) {                                                      \
         detail::CombineInPlace<NumericModule>(X, Y, Arithmetic##Name::Subtract);                       \
     }                                                                                                  \
-    MT MultiplyMatrixByConst(const MT& X, Factor##Name C) { return detail::ConstMultiple(X, C); }      \
+    MT MultiplyMatrixByConst(const MT& X, Factor##Name C) {                                            \
+        return detail::MapEachToNew(X, [C](T x) { return Arithmetic##Name::Scale(C, x); });            \
+    }                                                                                                  \
     void MultiplyMatrixByConst2(MT& X, Factor##Name C) {                                               \
         detail::MapEachInPlace(X, [C](T x) { return Arithmetic##Name::Scale(C, x); });                 \
     }                                                                                                  \

@@ -60,7 +60,7 @@ public:
     }
 
     void Exchange(Integer a, Integer b) noexcept {
-        for (const Target& target : targets_) ExchangeRows(*target.M, a, b, LongWord(cols_));
+        for (const Target& target : targets_) ExchangeRows<NumericModule>(*target.M, a, b, LongWord(cols_));
         std::swap(pending_[std::size_t(a)], pending_[std::size_t(b)]);
     }
 

@@ -27,6 +27,8 @@ using Matrix = TKorVector<TKorVector<E>>;
 // templates reach it through the module they are instantiated for.
 struct NumericModule {
     static Boolean& RectangularCheck() noexcept { return KorMatrixRectangularCheck; }
+    template <class E>
+    static void Swap(E& a, E& b) noexcept { Kornumsystem::SwapXY(a, b); }
 };
 
 // ---- The shape probe -----------------------------------------------------------------
@@ -164,12 +166,12 @@ inline void AddRowMultiple(const Matrix<E>& X, Integer row1, Integer row2, typen
 }
 
 // Exchanges the elements of two rows (not the row handles) over the first cols columns.
-template <class E>
+template <class Module, class E>
 inline void ExchangeRows(const Matrix<E>& M, Integer row1, Integer row2, LongWord cols) noexcept {
     E* a = M[row1].data();
     E* b = M[row2].data();
     const Integer n = Span(M[row1], LongWord(Span(M[row2], cols)));
-    for (Integer j = 0; j < n; ++j) Kornumsystem::SwapXY(a[j], b[j]);
+    for (Integer j = 0; j < n; ++j) Module::Swap(a[j], b[j]);
 }
 
 // ---- Shared routines --------------------------------------------------------------------
