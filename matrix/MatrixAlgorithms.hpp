@@ -33,14 +33,19 @@ bool SameDimensions(const Matrix<E>& X, const Matrix<E>& Y) noexcept {
     return a.Rectangular && b.Rectangular && a.Rows == b.Rows && a.Cols == b.Cols;
 }
 
-// Row by row, each of its own length, every element converted to To.
-template <class To, class E>
-Matrix<To> MapRows(const Matrix<E>& M) {
+// Row by row, each of its own length, every element converted to To (by convert, or
+// by value).
+template <class To, class E, class Convert>
+Matrix<To> MapRows(const Matrix<E>& M, Convert convert) {
     Matrix<To> result;
     result.SetLength(M.Length());
     for (Integer i = 0; i < M.Length(); ++i)
-        result[i] = MapToNew<To>(M[i], [](const E& x) { return ValueOf<To>(ValueOf<E>(x)); });
+        result[i] = MapToNew<To>(M[i], [&convert](const E& x) { return ValueOf<To>(convert(ValueOf<E>(x))); });
     return result;
+}
+template <class To, class E>
+Matrix<To> MapRows(const Matrix<E>& M) {
+    return MapRows<To>(M, [](ValueOf<E> x) { return ValueOf<To>(x); });
 }
 
 template <class Module, class E>
@@ -221,6 +226,23 @@ Matrix<E> MapEachToNew(const Matrix<E>& X, Map map) {
     for (Integer i = 0; i < X.Length(); ++i)
         result[i] = MapToNew<E>(X[i], [&map](const E& x) { return map(ValueOf<E>(x)); });
     return result;
+}
+
+// Every element of every row (each row at its own length) added in order by add into a
+// Sum that starts at zero; N is the number of elements. No rows, or no elements, is
+// rsMatrixIsEmpty.
+template <class Sum, class E, class Add>
+Sum SumOfAll(const Matrix<E>& X, LongWord& N, Add add) {
+    RequireRows(X);
+    LongWord count = 0;
+    Sum sum{};
+    for (Integer i = 0; i < X.Length(); ++i) {
+        count += LongWord(X[i].Length());
+        for (const E& x : X[i]) sum = add(sum, ValueOf<E>(x));
+    }
+    Require(count > 0, rsMatrixIsEmpty);
+    N = count;
+    return sum;
 }
 
 }  // namespace KornumMatrix::detail

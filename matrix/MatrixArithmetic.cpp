@@ -14,16 +14,8 @@ using Kornum_RS_Math::rsMatrixZero;
 
 template <class E>
 Float GrandMeanOf(const Matrix<E>& X, LongWord& N) {
-    RequireRows(X);
-    LongWord count = 0;
-    Float sum = 0;
-    for (Integer i = 0; i < X.Length(); ++i) {
-        count += LongWord(X[i].Length());
-        for (const E& x : X[i]) sum += Float(ValueOf<E>(x));
-    }
-    Require(count > 0, rsMatrixIsEmpty);
-    N = count;
-    return sum / Float(count);
+    const Float sum = SumOfAll<Float>(X, N, [](Float s, ValueOf<E> x) { return s + Float(x); });
+    return sum / Float(N);
 }
 
 // The checks of the row and column operations: emptiness, shape, then the indices.

@@ -23,8 +23,8 @@ using Kornum_RS_Math::rsMatrixSqr;
 template <class E>
 using Matrix = TKorVector<TKorVector<E>>;
 
-// The global that switches the raggedness test. Each matrix module has its own; the
-// templates reach it through the module they are instantiated for.
+// What a matrix module brings to the templates: its global that switches the raggedness
+// test (each module has its own) and the swap its moves use.
 struct NumericModule {
     static Boolean& RectangularCheck() noexcept { return KorMatrixRectangularCheck; }
     template <class E>
@@ -99,7 +99,7 @@ inline bool Holds(const Matrix<E>& M, Integer row, LongWord col) noexcept {
 
 template <class E>
 inline ValueOf<E> ValueAt(const Matrix<E>& M, Integer row, LongWord col) noexcept {
-    return Holds(M, row, col) ? ValueOf<E>(M[row][Integer(col)]) : ValueOf<E>(0);
+    return Holds(M, row, col) ? ValueOf<E>(M[row][Integer(col)]) : ValueOf<E>{};
 }
 
 // ---- Checks ----------------------------------------------------------------------------

@@ -18,6 +18,7 @@
 #include <kornum/KornumStatistics.h>
 #include <kornum/KornumMatrix.h>
 #include <kornum/KornumFinVector.h>
+#include <kornum/KornumFinMatrix.h>
 #include <kornum/KornumDescStats.h>
 #include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/KornumPackage.h>

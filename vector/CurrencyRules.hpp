@@ -9,11 +9,36 @@
 #include <kornum/Kornumfinancials.h>
 
 #include <cmath>
+#include <type_traits>
 
 namespace KornumVector::detail {
 
 // A Float rounded to the nearest integer, ties to even (the processor's rounding).
 inline Int64 RoundToStored(Float x) noexcept { return std::llrint(x); }
+
+// The stored integer of an amount, and an amount from its stored integer (a KorCurrency
+// keeps the low 32 bits).
+template <class T>
+Int64 StoredOf(T x) noexcept {
+    if constexpr (std::is_same_v<T, Currency>) return x.Raw; else return Int64(x);
+}
+template <class T>
+T FromStored(Int64 stored) noexcept {
+    if constexpr (std::is_same_v<T, Currency>) return Currency::FromRaw(stored); else return T(stored);
+}
+
+// Exact integer sums and differences of the stored values, wrapping in their width:
+// 32 bits for KorCurrency, 64 for the others.
+template <class T>
+using StoredWidth = std::conditional_t<std::is_same_v<T, KorCurrency>, KorCurrency, Int64>;
+template <class T>
+T StoredAdd(T a, T b) noexcept {
+    return FromStored<T>(WrapAdd(StoredWidth<T>(StoredOf(a)), StoredWidth<T>(StoredOf(b))));
+}
+template <class T>
+T StoredSubtract(T a, T b) noexcept {
+    return FromStored<T>(WrapSub(StoredWidth<T>(StoredOf(a)), StoredWidth<T>(StoredOf(b))));
+}
 
 // What the three share: exact comparisons, the currency module's swap, and the two
 // integer members' ranking equality, SameCurrency of the stored integer taken as a whole
@@ -37,6 +62,7 @@ struct CurrencyRulesBase {
 // widens to Int64 instead).
 struct KorCurrencyRules : CurrencyRulesBase<KorCurrency> {
     using Sum = KorCurrency;
+    static constexpr Int64 StoredOne = 100;
     static KorCurrency Widen(KorCurrency x) noexcept { return x; }
     static KorCurrency Add(KorCurrency s, KorCurrency t) noexcept { return WrapAdd(s, t); }
     static KorCurrency FromAmount(Float a) { return Kornumfinancials::Float2KorCurrency(a); }
@@ -46,6 +72,7 @@ struct KorCurrencyRules : CurrencyRulesBase<KorCurrency> {
 
 struct KorLongCurrencyRules : CurrencyRulesBase<KorLongCurrency> {
     using Sum = KorLongCurrency;
+    static constexpr Int64 StoredOne = 1000000;
     static KorLongCurrency Widen(KorLongCurrency x) noexcept { return x; }
     static KorLongCurrency Add(KorLongCurrency s, KorLongCurrency t) noexcept { return WrapAdd(s, t); }
     static KorLongCurrency FromAmount(Float a) { return Kornumfinancials::Float2KorLongCurrency(a); }
@@ -61,6 +88,7 @@ struct KorLongCurrencyRules : CurrencyRulesBase<KorLongCurrency> {
 // its sign tests are the tolerant Float ones on the amount.
 struct CurrencyRules : CurrencyRulesBase<Currency> {
     using Sum = Currency;
+    static constexpr Int64 StoredOne = Currency::Scale;
     static Currency Widen(Currency x) noexcept { return x; }
     static Currency Add(Currency s, Currency t) noexcept {
         return Currency::FromRaw(RoundToStored(Float(s.Raw) + Float(t.Raw)));
@@ -72,6 +100,17 @@ struct CurrencyRules : CurrencyRulesBase<Currency> {
     static bool FailsPositive(Currency x) { return !Kornummath::FloatIsPositive(Amount(x)); }
     static bool FailsNonNegative(Currency x) { return Kornummath::FloatIsNegative(Amount(x)); }
 };
+
+// amount * A + B in the member's own terms: for Currency on the stored amount in Float,
+// rounded; for the others through the Float amount and back (a result out of range
+// raises Platform::ERangeError).
+template <class R>
+typename R::Value Transformed(typename R::Value x, Float A, Float B) {
+    if constexpr (std::is_same_v<typename R::Value, Currency>)
+        return Currency::FromRaw(RoundToStored(A * Float(x.Raw) + B * Float(Currency::Scale)));
+    else
+        return R::FromAmount(A * R::Amount(x) + B);
+}
 
 // Currency is a type of its own, so the algorithms that take their rules from the
 // element type find these.

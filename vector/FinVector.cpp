@@ -11,27 +11,6 @@ namespace detail {
 using namespace KornumVector::detail;
 using Kornumfinancials::Currency2Float;
 
-// The stored sum or difference of two amounts: 32 bits wrapping for KorCurrency, 64
-// bits for the others.
-template <class T>
-T StoredAdd(T a, T b) noexcept {
-    if constexpr (std::is_same_v<T, Currency>) return Currency::FromRaw(WrapAdd(a.Raw, b.Raw)); else return WrapAdd(a, b);
-}
-template <class T>
-T StoredSubtract(T a, T b) noexcept {
-    if constexpr (std::is_same_v<T, Currency>) return Currency::FromRaw(WrapSub(a.Raw, b.Raw)); else return WrapSub(a, b);
-}
-
-// amount * A + B in the member's own terms: for Currency on the stored amount in Float,
-// rounded; for the others through the Float amount and back.
-template <class R>
-typename R::Value Transformed(typename R::Value x, Float A, Float B) {
-    if constexpr (std::is_same_v<typename R::Value, Currency>)
-        return Currency::FromRaw(RoundToStored(A * Float(x.Raw) + B * Float(Currency::Scale)));
-    else
-        return R::FromAmount(A * R::Amount(x) + B);
-}
-
 // Every element is transformed before any is stored, so that a value out of range
 // leaves V as it was.
 template <class R, class E>
