@@ -58,24 +58,25 @@ struct CurrencyRulesBase {
     static bool FailsNonNegative(Stored x) noexcept { return x < 0; }
 };
 
-// KorCurrency sums wrap in 32 bits and stay KorCurrency (the numeric Integer member
-// widens to Int64 instead).
-struct KorCurrencyRules : CurrencyRulesBase<KorCurrency> {
-    using Sum = KorCurrency;
-    static constexpr Int64 StoredOne = 100;
-    static KorCurrency Widen(KorCurrency x) noexcept { return x; }
-    static KorCurrency Add(KorCurrency s, KorCurrency t) noexcept { return WrapAdd(s, t); }
-    static KorCurrency FromAmount(Float a) { return Kornumfinancials::Float2KorCurrency(a); }
+// The integer members: sums wrap in their own width and keep the element type (so the
+// KorCurrency sum wraps in 32 bits, where the numeric Integer member widens to Int64);
+// amounts convert back through the base layer's Float2KorCurrency or
+// Float2KorLongCurrency.
+template <class Stored, Int64 One, Stored (*FromFloatAmount)(Float)>
+struct IntegerCurrencyRules : CurrencyRulesBase<Stored> {
+    using Sum = Stored;
+    static constexpr Int64 StoredOne = One;
+    static Stored Widen(Stored x) noexcept { return x; }
+    static Stored Add(Stored s, Stored t) noexcept { return WrapAdd(s, t); }
+    static Stored FromAmount(Float a) { return FromFloatAmount(a); }
+};
+
+struct KorCurrencyRules : IntegerCurrencyRules<KorCurrency, 100, Kornumfinancials::Float2KorCurrency> {
     // Every 32-bit value times 10,000 fits 64 bits: the equality is exact.
     static bool SameIsAnInterval(const TKorVector<KorCurrency>&) noexcept { return true; }
 };
 
-struct KorLongCurrencyRules : CurrencyRulesBase<KorLongCurrency> {
-    using Sum = KorLongCurrency;
-    static constexpr Int64 StoredOne = 1000000;
-    static KorLongCurrency Widen(KorLongCurrency x) noexcept { return x; }
-    static KorLongCurrency Add(KorLongCurrency s, KorLongCurrency t) noexcept { return WrapAdd(s, t); }
-    static KorLongCurrency FromAmount(Float a) { return Kornumfinancials::Float2KorLongCurrency(a); }
+struct KorLongCurrencyRules : IntegerCurrencyRules<KorLongCurrency, 1000000, Kornumfinancials::Float2KorLongCurrency> {
     // Times 10,000 wraps beyond 2^63 / 10,000, and then values 2^60 apart compare the
     // same: the ranking searches a sorted copy only while every value is below 2^59.
     static bool SameIsAnInterval(const TKorVector<KorLongCurrency>& values) noexcept {
