@@ -5,6 +5,7 @@
 #include <kornum/PlatformClasses.h>
 #include <kornum/PlatformComponents.h>
 #include <kornum/PlatformStreaming.h>
+#include <kornum/PlatformGraphics.h>
 
 #include <kornum/Kornumglobals.h>
 #include <kornum/Kornum_RS_Math.h>
@@ -13,6 +14,7 @@
 #include <kornum/Kornumfinancials.h>
 #include <kornum/Kornumconvert.h>
 #include <kornum/Kornummsgs.h>
+#include <kornum/Kornumcontrols.h>
 
 #include <kornum/KornumVector.h>
 #include <kornum/KornumStatistics.h>
@@ -21,4 +23,5 @@
 #include <kornum/KornumFinMatrix.h>
 #include <kornum/KornumDescStats.h>
 #include <kornum/Kornum_RS_DescStats.h>
+#include <kornum/KornumMathLabel.h>
 #include <kornum/KornumPackage.h>
