@@ -1,5 +1,6 @@
 // The kornum command-line program.
 #include "DescribeCommand.h"
+#include "LabelCommand.h"
 #include "MatrixCommand.h"
 
 #include <kornum/KornumPackage.h>
@@ -21,6 +22,8 @@ constexpr const char* Usage =
     "Commands:\n"
     "  describe   descriptive statistics of the numbers in files\n"
     "             (kornum describe --help for its options)\n"
+    "  label      draw a caption with Greek letters and mathematical symbols\n"
+    "             into an SVG, PNG or PDF file (kornum label --help)\n"
     "  matrix     determinant, inverse, rank, echelon form, transpose and\n"
     "             product of matrices in files (kornum matrix --help)\n"
     "\n"
@@ -42,6 +45,8 @@ int main(int argc, char** argv) {
     }
     if (!arguments.empty() && arguments[0] == "describe")
         return KornumCli::RunDescribe({arguments.begin() + 1, arguments.end()});
+    if (!arguments.empty() && arguments[0] == "label")
+        return KornumCli::RunLabel({arguments.begin() + 1, arguments.end()});
     if (!arguments.empty() && arguments[0] == "matrix")
         return KornumCli::RunMatrix({arguments.begin() + 1, arguments.end()});
     if (arguments.empty()) {

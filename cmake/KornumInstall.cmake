@@ -1,6 +1,6 @@
 include(CMakePackageConfigHelpers)
 
-install(TARGETS kornum_base_rt kornum_stats_rt EXPORT kornumTargets
+install(TARGETS kornum_base_rt kornum_stats_rt kornum_canvas EXPORT kornumTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}

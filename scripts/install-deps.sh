@@ -5,6 +5,7 @@ set -euo pipefail
 
 packages=(
   g++ cmake ninja-build           # toolchain
+  pkg-config libcairo2-dev fonts-dejavu-core  # the Cairo canvas and its fonts
   libgtest-dev                    # unit tests
   libbenchmark-dev                # benchmarks
   libboost-dev libgsl-dev         # peers measured in the benchmarks
