@@ -2,6 +2,7 @@
 #include "DescribeCommand.h"
 #include "LabelCommand.h"
 #include "MatrixCommand.h"
+#include "RandomCommand.h"
 
 #include <kornum/KornumPackage.h>
 
@@ -26,6 +27,7 @@ constexpr const char* Usage =
     "             into an SVG, PNG or PDF file (kornum label --help)\n"
     "  matrix     determinant, inverse, rank, echelon form, transpose and\n"
     "             product of matrices in files (kornum matrix --help)\n"
+    "  random     variates of fourteen distributions (kornum random --help)\n"
     "\n"
     "Options:\n"
     "  --help     show this text and exit\n"
@@ -47,6 +49,8 @@ int main(int argc, char** argv) {
         return KornumCli::RunDescribe({arguments.begin() + 1, arguments.end()});
     if (!arguments.empty() && arguments[0] == "label")
         return KornumCli::RunLabel({arguments.begin() + 1, arguments.end()});
+    if (!arguments.empty() && arguments[0] == "random")
+        return KornumCli::RunRandom({arguments.begin() + 1, arguments.end()});
     if (!arguments.empty() && arguments[0] == "matrix")
         return KornumCli::RunMatrix({arguments.begin() + 1, arguments.end()});
     if (arguments.empty()) {

@@ -6,6 +6,7 @@
 #include <kornum/PlatformComponents.h>
 #include <kornum/PlatformStreaming.h>
 #include <kornum/PlatformGraphics.h>
+#include <kornum/PlatformRandom.h>
 
 #include <kornum/Kornumglobals.h>
 #include <kornum/Kornum_RS_Math.h>
@@ -21,6 +22,7 @@
 #include <kornum/KornumMatrix.h>
 #include <kornum/KornumFinVector.h>
 #include <kornum/KornumFinMatrix.h>
+#include <kornum/KornumRandom.h>
 #include <kornum/KornumDescStats.h>
 #include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/KornumMathLabel.h>

@@ -11,10 +11,11 @@ packages=(
   libboost-dev libgsl-dev         # peers measured in the benchmarks
   libeigen3-dev
   python3-mpmath                  # regenerating the reference tables
+  python3-numpy python3-scipy     # the random variates' distribution tests
 )
 # With --bench: also what the whole-program benchmark compares against.
 if [ "${1:-}" = "--bench" ]; then
-  packages+=(python3-numpy python3-scipy datamash time)
+  packages+=(datamash time)
 fi
 # With --fuzz: clang and its fuzzing runtime.
 if [ "${1:-}" = "--fuzz" ]; then

@@ -1,0 +1,254 @@
+// Gamma (two methods by shape), chi-square, Weibull, beta, Student t, generalised
+// inverse Gaussian and von Mises variates.
+#include "RandomRules.hpp"
+
+#include <array>
+#include <utility>
+
+namespace KornumRandom {
+
+using namespace detail;
+using Kornum_RS_Math::rsInvalidShape;
+using Kornum_RS_Math::rsInvalidValue;
+using Kornum_RS_Math::rsShapeTooSmall;
+
+namespace detail {
+namespace {
+
+// Marsaglia and Tsang's squeeze method, for shapes above 1.
+Float GammaLargeShape(Float s, TKorUniformFunc RandomGen) {
+    Require(s > 1, rsInvalidShape);
+    const Float c = s - 1.0L / 3;
+    const Float d = 1 / sqrt(9 * c);
+    for (;;) {
+        Float x, v;
+        do {
+            x = Random_Normal(RandomGen);
+            v = XtoY(1 + d * x, 3);
+        } while (v <= 0);
+        const Float u = RandomGen();
+        if (u < 1 - 0.0331L * x * x * x * x) return c * v;
+        if (log(u) < 0.5L * x * x + c * (1 - v + log(v))) return c * v;
+    }
+}
+
+// A switching method for shapes below 1: a power density left of a, an exponential
+// tail right of it, each corrected by a rejection step.
+Float GammaSmallShape(Float s, TKorUniformFunc RandomGen) {
+    Require(s > 0 && s < 1, rsInvalidShape);
+    Require(!(s < KorVSmall), rsShapeTooSmall);
+    const Float a = 1 - s;
+    const Float p = a / (a + s * exp(-a));
+    const Float c = 1 / s;
+    const Float uf = p * XtoY(KorVSmall / a, s);
+    const Float vr = 1 - KorVSmall;  // exactly 1 in Float
+    const Float d = a * log(a);
+    for (;;) {
+        Float r = RandomGen();
+        if (r >= vr) continue;
+        Float x, w;
+        if (r > p) {
+            x = a - log((1 - r) / (1 - p));
+            w = a * log(x) - d;
+        } else if (r > uf) {
+            x = a * XtoY(r / p, c);
+            w = x;
+        } else {
+            return 0;
+        }
+        r = RandomGen();
+        if (1 - r <= w && r > 0) {
+            if (r * (w + 1) >= 1) continue;
+            if (-log(r) <= w) continue;
+        }
+        return x;
+    }
+}
+
+// Six-point Gauss-Legendre quadrature of exp(k cos x) over [a, b].
+Float VonMisesIntegral(Float k, Float a, Float b) {
+    static constexpr std::array<Float, 3> Nodes{0.238619186083197L, 0.661209386466265L, 0.932469514203152L};
+    static constexpr std::array<Float, 3> Weights{0.467913934572691L, 0.360761573048139L, 0.171324492379170L};
+    const Float mid = (a + b) / 2, half = (b - a) / 2;
+    Float sum = 0;
+    for (std::size_t i = 0; i < 3; ++i)
+        sum += Weights[i] * (exp(k * std::cos(mid + Nodes[i] * half)) + exp(k * std::cos(mid - Nodes[i] * half)));
+    return sum * half;
+}
+
+}  // namespace
+}  // namespace detail
+
+Float Random_Gamma(Float s, TKorUniformFunc RandomGen) {
+    Require(s > 0, rsInvalidShape);
+    if (s > 1) return GammaLargeShape(s, RandomGen);
+    if (s < 1) return GammaSmallShape(s, RandomGen);
+    return Random_Exponential(RandomGen);
+}
+
+Float Random_ChiSq(Integer ndf, TKorUniformFunc RandomGen) { return 2 * Random_Gamma(0.5L * ndf, RandomGen); }
+
+// Only the magnitude of a is tested: a negative a is accepted, E^(1/a) then having a
+// negative exponent.
+Float Random_Weibull(Float a, TKorUniformFunc RandomGen) {
+    Require(fabs(a) > KorVSmall, rsInvalidValue);
+    return XtoY(Random_Exponential(RandomGen), 1 / a);
+}
+
+// Cheng's log-logistic method (algorithms BB and BC), on a >= b with the result
+// mirrored when the parameters were exchanged.
+Float Random_Beta(Float aa, Float bb, TKorUniformFunc RandomGen) {
+    Require(aa > 0 && bb > 0, rsInvalidValue);
+    Float a = aa, b = bb;
+    const bool swap = b > a;
+    if (swap) std::swap(a, b);
+    const Float d = a / b, f = a + b;
+    Float h, t;
+    if (b > 1) {
+        h = sqrt((2 * a * b - f) / (f - 2));
+        t = 1;
+    } else {
+        h = b;
+        t = 1 / (1 + XtoY(a / (VLarge * b), b));
+    }
+    const Float c = a + h;
+    Float result;
+    for (;;) {
+        const Float r = RandomGen();
+        Float x = RandomGen();
+        const Float s = r * r * x;
+        if (r < KorVSmall || s <= 0) continue;
+        if (r < t) {
+            x = log(r / (1 - r)) / h;
+            const Float y = d * exp(x);
+            const Float z = c * x + f * log((1 + d) / (1 + y)) - 1.38629436112L;
+            if (s - 1 > z) {
+                if (s - s * z > 1) continue;
+                if (log(s) > z) continue;
+            }
+            result = y / (1 + y);
+        } else {
+            if (4 * s > XtoY(1 + 1 / d, f)) continue;
+            result = 1;
+        }
+        break;
+    }
+    return swap ? 1 - result : result;
+}
+
+// Kinderman and Monahan's ratio method. The method as first stated does not draw
+// Student's t: for m > 1 its bound g is too small by sqrt((m + 1) / (2m)), and for m = 1
+// and 2 its outer squeeze r (v + 3) > f rejects points inside the acceptance region.
+// Corrected here, and nowhere else: g = ((s + 1) / (s - 1))^c sqrt(2s / (s - 1)), and the
+// outer squeeze only from m = 3 on.
+Float Random_T(Integer m, TKorUniformFunc RandomGen) {
+    Require(m >= 1, rsInvalidValue);
+    const Float s = m;
+    const Float c = -0.25L * (s + 1);
+    const Float a = 4 / XtoY(1 + 1 / s, c);
+    const Float f = 16 / a;
+    Float g = 1;
+    if (m > 1) {
+        g = s - 1;
+        g = XtoY((s + 1) / g, c) * sqrt(2 * s / g);
+    }
+    for (;;) {
+        Float r;
+        do {
+            r = RandomGen();
+        } while (r <= 0);
+        Float v = RandomGen();
+        const Float x = (2 * v - 1) * g / r;
+        v = x * x;
+        if (v > 5 - a * r) {
+            if (m >= 3 && r * (v + 3) > f) continue;
+            if (r > XtoY(1 + v / s, c)) continue;
+        }
+        return x;
+    }
+}
+
+// A ratio-of-uniforms method for the density x^(h-1) exp(-b (x + 1/x) / 2).
+Float Random_Inv_Gauss(Float h, Float b, TKorUniformFunc RandomGen) {
+    Require(!(h < 0), rsInvalidValue);
+    Require(b > 0, rsInvalidValue);
+    Require(!(h > 0.25L * b * sqrt(VLarge)), rsInvalidValue);  // h : b too small
+    Float e = b * b;
+    Float d = h + 1;
+    const Float ym = (-d + sqrt(d * d + e)) / b;
+    Require(!(ym < KorVSmall), rsInvalidValue);  // b too small
+    d = h - 1;
+    const Float xm = (d + sqrt(d * d + e)) / b;
+    d = 0.5L * d;
+    e = -0.25L * b;
+    const Float r = xm + 1 / xm;
+    const Float w = xm * ym;
+    const Float a = XtoY(w, -0.5L * h) * sqrt(xm / ym) * exp(-e * (r - ym - 1 / ym));
+    Require(!(a < KorVSmall), rsInvalidValue);  // h too large
+    const Float c = -d * log(xm) - e * r;
+    for (;;) {
+        Float r1;
+        do {
+            r1 = RandomGen();
+        } while (r1 <= 0);
+        const Float r2 = RandomGen();
+        const Float x = a * r2 / r1;
+        if (x <= 0) continue;
+        if (log(r1) < d * log(x) + e * (x + 1 / x) + c) return x;
+    }
+}
+
+// Dagpunar's comparison of random numbers (VMD): the half circle cut into nk pieces
+// chosen by their probability, then a Forsythe comparison within the piece.
+Float Random_von_Mises(Float k, TKorUniformFunc RandomGen) {
+    Require(!(k < 0), rsInvalidValue);
+    const Integer nk = Integer(k + k + 1);
+    Require(nk <= 20, rsInvalidValue);
+    std::array<Float, 22> theta{}, p{};
+    if (k > 0.5L) {
+        Float total = 0;
+        for (Integer j = 1; j <= nk; ++j) {
+            theta[j] = j < nk ? KorArcCos(1 - j / k) : KorPi;
+            p[j] = VonMisesIntegral(k, theta[j - 1], theta[j]);
+            total += p[j];
+        }
+        for (Integer j = 1; j <= nk; ++j) p[j] /= total;
+    } else {
+        p[1] = 1;
+        theta[1] = KorPi;
+    }
+    Float r = RandomGen();
+    Integer j = 1;
+    for (; j <= nk; ++j) {
+        r -= p[j];
+        if (r < 0) break;
+    }
+    if (j > nk) j = nk;  // r within rounding of 1: the last piece
+    r = -r / p[j];
+    Float th, rlast;
+    for (;;) {
+        th = theta[j - 1] + r * (theta[j] - theta[j - 1]);
+        const Float lambda = k - j + 1 - k * std::cos(th);
+        Integer n = 1;
+        rlast = lambda;
+        r = RandomGen();
+        while (r <= rlast) {
+            ++n;
+            rlast = r;
+            r = RandomGen();
+        }
+        if (n % 2 == 1) break;
+        r = RandomGen();
+    }
+    return (r - rlast) / (1 - rlast) - 0.5L < 0 ? -th : th;
+}
+
+KORNUM_FROM_DELPHI_RANDOM(Float, Random_Gamma, (Float s), (s, DelphiRandom))
+KORNUM_FROM_DELPHI_RANDOM(Float, Random_ChiSq, (Integer ndf), (ndf, DelphiRandom))
+KORNUM_FROM_DELPHI_RANDOM(Float, Random_Weibull, (Float a), (a, DelphiRandom))
+KORNUM_FROM_DELPHI_RANDOM(Float, Random_Beta, (Float aa, Float bb), (aa, bb, DelphiRandom))
+KORNUM_FROM_DELPHI_RANDOM(Float, Random_T, (Integer m), (m, DelphiRandom))
+KORNUM_FROM_DELPHI_RANDOM(Float, Random_Inv_Gauss, (Float h, Float b), (h, b, DelphiRandom))
+KORNUM_FROM_DELPHI_RANDOM(Float, Random_von_Mises, (Float k), (k, DelphiRandom))
+
+}  // namespace KornumRandom

@@ -1,0 +1,34 @@
+// What the generators share. Internal to the library (not installed).
+#pragma once
+
+#include <kornum/KornumRandom.h>
+#include <kornum/Kornum_RS_Math.h>
+#include <kornum/Kornummath.h>
+#include <kornum/Platform.h>
+
+#include <cmath>
+
+namespace KornumRandom::detail {
+
+using namespace Kornummath;
+using std::exp;
+using std::fabs;
+using std::log;
+using std::sqrt;
+
+// The large guard of the continuous generators.
+inline constexpr Float VLarge = 1.7E308L;
+
+inline void Require(bool holds, const Platform::ResourceString& message) {
+    if (!holds) Platform::Raise(message);
+}
+
+// Truncation toward zero to an integer.
+inline Int64 Trunc(Float x) noexcept { return Int64(x); }
+
+}  // namespace KornumRandom::detail
+
+// The overload that draws from DelphiRandom, for a generator of the given result type,
+// name, parameter list and argument list.
+#define KORNUM_FROM_DELPHI_RANDOM(Result, Name, Parameters, Arguments) \
+    Result Name Parameters { return Name Arguments; }
