@@ -8,9 +8,9 @@ namespace {
 struct Xoshiro256StarStar {
     std::uint64_t s[4];
 
-    static std::uint64_t Rotl(std::uint64_t x, int k) noexcept { return (x << k) | (x >> (64 - k)); }
+    static constexpr std::uint64_t Rotl(std::uint64_t x, int k) noexcept { return (x << k) | (x >> (64 - k)); }
 
-    void Seed(std::uint64_t seed) noexcept {
+    constexpr void Seed(std::uint64_t seed) noexcept {
         // splitmix64 spreads one 64-bit seed over the four words of state.
         for (std::uint64_t& word : s) {
             std::uint64_t z = (seed += 0x9E3779B97F4A7C15ull);
@@ -33,14 +33,16 @@ struct Xoshiro256StarStar {
     }
 };
 
-Xoshiro256StarStar& Generator() noexcept {
-    static Xoshiro256StarStar generator = [] {
-        Xoshiro256StarStar g{};
-        g.Seed(DefaultRandSeed);
-        return g;
-    }();
-    return generator;
+// The state at load is computed when the library is built: no first-call guard on the
+// path of every draw.
+constexpr Xoshiro256StarStar Seeded(std::uint64_t seed) noexcept {
+    Xoshiro256StarStar g{};
+    g.Seed(seed);
+    return g;
 }
+Xoshiro256StarStar generator = Seeded(DefaultRandSeed);
+
+Xoshiro256StarStar& Generator() noexcept { return generator; }
 
 }  // namespace
 
@@ -53,7 +55,12 @@ void Randomize() {
 
 std::uint64_t RandomBits() noexcept { return Generator().Next(); }
 
-// 2^-64 times a 64-bit integer: exact in the 64-bit significand.
-long double Random() noexcept { return static_cast<long double>(RandomBits()) * 0x1p-64L; }
+// 2^-64 times a 64-bit integer: exact in the 64-bit significand. The integer is loaded
+// as a signed one offset by 2^63 and the offset added back (exact too): an unsigned
+// conversion would branch on the top bit, a coin toss the processor mispredicts.
+long double Random() noexcept {
+    const auto offset = static_cast<std::int64_t>(RandomBits() ^ 0x8000000000000000ull);
+    return (static_cast<long double>(offset) + 0x1p63L) * 0x1p-64L;
+}
 
 }  // namespace Platform
