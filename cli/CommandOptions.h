@@ -2,10 +2,18 @@
 #pragma once
 
 #include <charconv>
+#include <cstdio>
 #include <string>
 #include <vector>
 
 namespace KornumCli {
+
+// Says what is wrong with a command's arguments and where its help is; the exit status
+// of bad usage.
+inline int UsageError(const char* command, const std::string& message) {
+    std::fprintf(stderr, "kornum %s: %s\nTry 'kornum %s --help'.\n", command, message.c_str(), command);
+    return 2;
+}
 
 // Reads the value of --decimals, the argument after position i, and moves i onto it.
 // Returns an empty text, or what is wrong with the value.

@@ -40,10 +40,7 @@ const char* const DescribeUsage =
 
 namespace {
 
-int UsageError(const std::string& message) {
-    std::fprintf(stderr, "kornum describe: %s\nTry 'kornum describe --help'.\n", message.c_str());
-    return 2;
-}
+int UsageError(const std::string& message) { return KornumCli::UsageError("describe", message); }
 
 // The keys of the JSON form, one for each line of the report, in its order.
 constexpr const char* JsonKeys[] = {

@@ -1,5 +1,7 @@
 #include "LabelCommand.h"
 
+#include "CommandOptions.h"
+
 #include <kornum/KornumCanvas.h>
 #include <kornum/KornumMathLabel.h>
 
@@ -30,10 +32,7 @@ constexpr const char* Usage =
     "  --width PX     the label's width; the caption is cut at its right edge\n"
     "                 (default: wide enough for the whole caption)\n";
 
-int UsageError(const std::string& message) {
-    std::fprintf(stderr, "kornum label: %s\nTry 'kornum label --help'.\n", message.c_str());
-    return 2;
-}
+int UsageError(const std::string& message) { return KornumCli::UsageError("label", message); }
 
 bool ReadWhole(const std::string& text, int low, int high, int& value) {
     auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);

@@ -38,10 +38,7 @@ constexpr const char* Usage =
     "A bad number or a row of another length stops the command with exit status 2 and\n"
     "a message naming the file, the line and the text.\n";
 
-int UsageError(const std::string& message) {
-    std::fprintf(stderr, "kornum matrix: %s\nTry 'kornum matrix --help'.\n", message.c_str());
-    return 2;
-}
+int UsageError(const std::string& message) { return KornumCli::UsageError("matrix", message); }
 
 std::string Describe(const std::string& source) { return source == "-" ? "standard input" : source; }
 

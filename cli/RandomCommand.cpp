@@ -1,5 +1,7 @@
 #include "RandomCommand.h"
 
+#include "CommandOptions.h"
+
 #include <kornum/KornumRandom.h>
 #include <kornum/Kornumconvert.h>
 #include <kornum/PlatformExceptions.h>
@@ -39,10 +41,7 @@ constexpr const char* Usage =
     "  negbinomial SK P      negative binomial, power SK > 0, probability 0 < P < 1\n"
     "  poisson MU            Poisson with mean MU\n";
 
-int UsageError(const std::string& message) {
-    std::fprintf(stderr, "kornum random: %s\nTry 'kornum random --help'.\n", message.c_str());
-    return 2;
-}
+int UsageError(const std::string& message) { return KornumCli::UsageError("random", message); }
 
 using Variate = std::function<std::string()>;
 using Parameters = std::vector<Float>;
