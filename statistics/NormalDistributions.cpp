@@ -4,6 +4,8 @@
 #include <kornum/Kornummath.h>
 #include <kornum/Platform.h>
 
+#include "../core/KorGammaSupport.h"
+
 #include <cmath>
 
 namespace KornumStatistics {
@@ -101,7 +103,13 @@ Float ProbabilityBetween(Float X1, Float X2, Less less) {
 
 }  // namespace
 
-Float NormalZ(Float X) { return std::exp(-(X * X) / 2) / std::sqrt(TwoPi); }
+// The square is split exactly, X^2 = hi + lo: rounded to one Float it would be off by up
+// to half an ulp of X^2 / 2, which the exponential turns into X^2 / 2 ulps of the result
+// (over 20 at X = 6.7).
+Float NormalZ(Float X) {
+    const Kornummath::special::TwoFloat square = Kornummath::special::TwoProduct(X, X);
+    return Kornummath::special::Exp({-square.hi / 2, -square.lo / 2}) / std::sqrt(TwoPi);
+}
 
 Float NormalLess(Float Z) {
     if (Z < 0) Platform::Raise(Kornum_RS_Math::rsValueGZero);

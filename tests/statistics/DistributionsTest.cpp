@@ -165,6 +165,22 @@ TEST(NormalDistributions, WorkedValuesAndConventions) {
     EXPECT_TRUE(std::isnan(LogNormalLess(0, 1, -1)));  // X unchecked: log of a negative
 }
 
+// The density far out, where the rounding of X^2 / 2 would be magnified by the
+// exponential: within 2 ulps of mpmath, evaluated at the exact binary values of the
+// arguments (written in hexadecimal).
+TEST(NormalDistributions, DensityFarOutWithinTwoUlps) {
+    const std::pair<Float, Float> points[] = {
+        {0xd.666666666666666p-1L, 7.13132812399607735274086023351e-11L},
+        {0xd.6b851eb851eb852p-1L, 6.66885038986343351876381136384e-11L},
+        {0xd.99999999999999ap-1L, 3.63096150179179121837301335313e-11L},
+        {0xd.ccccccccccccccdp-1L, 1.83033221701557730080845759626e-11L},
+        {0xe.99999999999999ap-1L, 1.06938378715416342806507584802e-12L},
+        {0x9.19999999999999ap+0L, 4.15859897911513533058698699936e-19L},
+        {0xd.b33333333333333p+0L, 6.9910822497064801733784780306e-42L}};
+    for (auto [x, expected] : points)
+        EXPECT_LE(std::fabs(NormalZ(x) - expected), 2 * 0x1p-63L * expected) << double(x);
+}
+
 TEST(NormalDistributions, ChecksInOrder) {
     constexpr Float NaN = std::numeric_limits<Float>::quiet_NaN();
     EXPECT_TRUE(Raises([] { NormalLess(-0.1L); }, rsValueGZero));  // no reflection here
