@@ -1,0 +1,99 @@
+// The incomplete gamma function and the chi-square, Student t, F and beta distributions
+// against mpmath (tools/make_beta_gamma_distribution_references.py): both tails, the
+// densities and the inverses, at the tolerance 1e-19 and at the default one.
+#include "StatisticsTestSupport.h"
+
+#include <kornum/KornumStatistics.h>
+
+#include <cmath>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <sstream>
+
+namespace {
+
+using namespace KornumStatistics;
+using namespace KornumTest;
+
+struct Row {
+    std::string kind;
+    std::vector<Float> arguments;
+    Float expected;
+};
+
+std::vector<Row> References() {
+    std::ifstream in(std::string(KORNUM_TEST_DATA_DIR) + "/distributions_beta_gamma.tsv");
+    std::vector<Row> rows;
+    for (std::string line; std::getline(in, line);) {
+        if (line.empty() || line[0] == '#') continue;
+        std::istringstream cells(line);
+        Row row;
+        cells >> row.kind;
+        std::vector<Float> numbers;
+        for (std::string cell; cells >> cell;) numbers.push_back(std::strtold(cell.c_str(), nullptr));
+        row.expected = numbers.back();
+        numbers.pop_back();
+        row.arguments = numbers;
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+using Routine = std::function<Float(const std::vector<Float>&)>;
+const std::map<std::string, Routine>& Routines() {
+    static const std::map<std::string, Routine> table{
+        {"igamma", [](auto& a) { return IncompleteGamma(a[0], a[1]); }},
+        {"chisq_less", [](auto& a) { return ChiSquareLess(a[0], Integer(a[1])); }},
+        {"chisq_greater", [](auto& a) { return ChiSquareGreater(a[0], Integer(a[1])); }},
+        {"chisq_pdf", [](auto& a) { return ChiSquarePDF(a[0], Integer(a[1])); }},
+        {"chisq_inv", [](auto& a) { return InvChiSquareLess(a[0], Integer(a[1])); }},
+        {"t_less", [](auto& a) { return StudentTLess(a[0], Integer(a[1])); }},
+        {"t_greater", [](auto& a) { return StudentTGreater(a[0], Integer(a[1])); }},
+        {"t_pdf", [](auto& a) { return StudentTPDF(a[0], Integer(a[1])); }},
+        {"t_inv", [](auto& a) { return InvStudentTLess(a[0], Integer(a[1])); }},
+        {"f_less", [](auto& a) { return FDistLess(a[0], Integer(a[1]), Integer(a[2])); }},
+        {"f_greater", [](auto& a) { return FDistGreater(a[0], Integer(a[1]), Integer(a[2])); }},
+        {"f_pdf", [](auto& a) { return FDistPDF(a[0], Integer(a[1]), Integer(a[2])); }},
+        {"f_inv", [](auto& a) { return InvFDistLess(a[0], Integer(a[1]), Integer(a[2])); }},
+        {"beta_less", [](auto& a) { return BetaDistLess(a[0], a[1], a[2]); }},
+        {"beta_greater", [](auto& a) { return BetaDistGreater(a[0], a[1], a[2]); }},
+        {"beta_pdf", [](auto& a) { return BetaPDF(a[0], a[1], a[2]); }},
+        {"beta_inv", [](auto& a) { return InvBetaDistLess(a[0], a[1], a[2]); }},
+    };
+    return table;
+}
+
+// The relative error allowed for each kind of routine.
+Float Allowed(const std::string& kind) {
+    if (kind.ends_with("_inv")) return 1e-16L;
+    if (kind.ends_with("_pdf")) return 16 * 0x1p-63L;
+    return 1e-17L;
+}
+
+TEST(BetaGammaDistributions, AgainstMpmathAtTheTightTolerance) {
+    const ToleranceScope tight(1e-19L);
+    std::map<std::string, Float> worst;
+    const std::vector<Row> rows = References();
+    ASSERT_GT(rows.size(), 800u);
+    for (const Row& row : rows) {
+        if (row.expected < 1e-300L && !row.kind.ends_with("_inv")) continue;  // below the promised range
+        const Float got = Routines().at(row.kind)(row.arguments);
+        const Float error = row.expected == 0 ? std::fabs(got) : std::fabs(got / row.expected - 1);
+        worst[row.kind] = std::max(worst[row.kind], error);
+        EXPECT_LE(error, Allowed(row.kind)) << row.kind << " " << double(row.arguments[0]) << " "
+                                           << double(row.arguments[1]) << ": " << double(got) << " vs "
+                                           << double(row.expected);
+    }
+    for (const auto& [kind, error] : worst) std::printf("  %-14s worst relative error %.3Lg\n", kind.c_str(), error);
+}
+
+TEST(BetaGammaDistributions, TheDefaultToleranceGivesFourTimesIt) {
+    Float worst = 0;
+    for (const Row& row : References())
+        if (row.kind == "igamma" && row.expected > 1e-300L)
+            worst = std::max(worst, std::fabs(IncompleteGamma(row.arguments[0], row.arguments[1]) / row.expected - 1));
+    EXPECT_LE(worst, 4 * Kornumglobals::KorTolerance);
+}
+
+}  // namespace
