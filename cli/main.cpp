@@ -1,5 +1,6 @@
 // The kornum command-line program.
 #include "DescribeCommand.h"
+#include "DistCommand.h"
 #include "LabelCommand.h"
 #include "MatrixCommand.h"
 #include "RandomCommand.h"
@@ -23,6 +24,8 @@ constexpr const char* Usage =
     "Commands:\n"
     "  describe   descriptive statistics of the numbers in files\n"
     "             (kornum describe --help for its options)\n"
+    "  dist       distribution functions, inverses and density tables\n"
+    "             (kornum dist --help)\n"
     "  label      draw a caption with Greek letters and mathematical symbols\n"
     "             into an SVG, PNG or PDF file (kornum label --help)\n"
     "  matrix     determinant, inverse, rank, echelon form, transpose and\n"
@@ -47,6 +50,8 @@ int main(int argc, char** argv) {
     }
     if (!arguments.empty() && arguments[0] == "describe")
         return KornumCli::RunDescribe({arguments.begin() + 1, arguments.end()});
+    if (!arguments.empty() && arguments[0] == "dist")
+        return KornumCli::RunDist({arguments.begin() + 1, arguments.end()});
     if (!arguments.empty() && arguments[0] == "label")
         return KornumCli::RunLabel({arguments.begin() + 1, arguments.end()});
     if (!arguments.empty() && arguments[0] == "random")
