@@ -7,6 +7,7 @@
 
 #include "../core/KorGammaSupport.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -19,12 +20,36 @@ using Kornumglobals::KorTolerance;
 // Enough steps for every argument below 1e7 at any tolerance the format can meet.
 constexpr int MaxSteps = 100000;
 
-// X^A e^-X / Gamma(A), with the exponent A ln X - X - ln Gamma(A) in TwoFloat.
-Float PowerExpOverGamma(Float a, Float x) {
-    if (x == 0) return 0;
+// ln Gamma(a) in TwoFloat: the Stirling form of the shifted argument less the log of the
+// shift product.
+special::TwoFloat LogGamma(Float a) {
     const special::GammaParts gamma = special::SplitGamma({a, 0});
-    const special::TwoFloat exponent = special::Log(x) * a - special::TwoFloat{x, 0} - gamma.logGamma;
-    return special::Exp(exponent) * (gamma.product.hi + gamma.product.lo);
+    return gamma.logGamma - special::Log(gamma.product);
+}
+
+// ln Gamma(df / 2) for the degrees of freedom the chi-square routines meet most, formed
+// once: the shift products of small arguments are most of the cost of a call.
+constexpr Integer TabulatedDegrees = 400;
+const special::TwoFloat& LogGammaOfHalf(Integer df) {
+    static const auto table = [] {
+        std::array<special::TwoFloat, TabulatedDegrees + 1> values{};
+        for (Integer k = 1; k <= TabulatedDegrees; ++k) values[std::size_t(k)] = LogGamma(Float(k) / 2);
+        return values;
+    }();
+    return table[std::size_t(df)];
+}
+
+// X^A e^-X / Gamma(A), with the exponent A ln X - X - ln Gamma(A) in TwoFloat.
+Float PowerExpOverGamma(Float a, Float x, const special::TwoFloat& logGamma) {
+    if (x == 0) return 0;
+    return special::Exp(special::Log(x) * a - special::TwoFloat{x, 0} - logGamma);
+}
+
+// ln Gamma(a) for a = df / 2 from the table where it holds it.
+special::TwoFloat LogGammaFor(Float a) {
+    const Float twice = 2 * a;
+    if (twice >= 1 && twice <= TabulatedDegrees && twice == std::floor(twice)) return LogGammaOfHalf(Integer(twice));
+    return LogGamma(a);
 }
 
 // P(A, X) / prefix = sum over n of X^n / (A (A + 1) ... (A + n)), for X < A + 1.
@@ -64,11 +89,11 @@ void RequireGammaArguments(Float a, Float x) {
 }
 
 // The lower or the upper regularised incomplete gamma, each formed directly where it is
-// the smaller one and as one minus the other where it is at least about one half.
-Float RegularisedGamma(Float a, Float x, bool upper) {
+// the smaller one and as one minus the other where it is at least about one half; prefix
+// is X^A e^-X / Gamma(A).
+Float RegularisedGamma(Float a, Float x, bool upper, Float prefix) {
     if (x == 0) return upper ? 1 : 0;
     if (std::isinf(x)) return upper ? 0 : 1;
-    const Float prefix = PowerExpOverGamma(a, x);
     if (x < a + 1) {
         const Float lower = prefix * LowerSeries(a, x);
         return upper ? 1 - lower : lower;
@@ -82,26 +107,32 @@ void RequireChiSquare(Float chiSq, Integer df) {
     if (df < 1) Platform::Raise(Kornum_RS_Math::rsDF);
 }
 
+// The regularised incomplete gamma with its prefix worked out.
+Float Regularised(Float a, Float x, bool upper) {
+    const Float prefix = std::isinf(x) ? 0 : PowerExpOverGamma(a, x, LogGammaFor(a));
+    return RegularisedGamma(a, x, upper, prefix);
+}
+
 }  // namespace
 
 Float IncompleteGamma(Float A, Float X) {
     RequireGammaArguments(A, X);
-    return RegularisedGamma(A, X, false);
+    return Regularised(A, X, false);
 }
 
 Float IncompleteGamma2(Float A, Float X) {
     RequireGammaArguments(A, X);
-    return Kornummath::Gamma(A) * RegularisedGamma(A, X, false);
+    return Kornummath::Gamma(A) * Regularised(A, X, false);
 }
 
 Float ChiSquareLess(Float ChiSq, Integer DF) {
     RequireChiSquare(ChiSq, DF);
-    return RegularisedGamma(Float(DF) / 2, ChiSq / 2, false);
+    return Regularised(Float(DF) / 2, ChiSq / 2, false);
 }
 
 Float ChiSquareGreater(Float ChiSq, Integer DF) {
     RequireChiSquare(ChiSq, DF);
-    return RegularisedGamma(Float(DF) / 2, ChiSq / 2, true);
+    return Regularised(Float(DF) / 2, ChiSq / 2, true);
 }
 
 // (x/2)^(k/2 - 1) e^(-x/2) / (2 Gamma(k/2)) = prefix(k/2, x/2) / x.
@@ -109,7 +140,7 @@ Float ChiSquarePDF(Float ChiSq, Integer DF) {
     RequireChiSquare(ChiSq, DF);
     const Float a = Float(DF) / 2;
     if (ChiSq == 0) return DF == 2 ? 0.5L : DF < 2 ? std::numeric_limits<Float>::infinity() : 0;
-    return PowerExpOverGamma(a, ChiSq / 2) / ChiSq;
+    return PowerExpOverGamma(a, ChiSq / 2, LogGammaFor(a)) / ChiSq;
 }
 
 // Halley steps on the smaller tail, from the Wilson-Hilferty approximation.
@@ -129,9 +160,11 @@ Float InvChiSquareLess(Float P, Integer DF) {
     Float x = a * w * w * w;
     if (!(w > 0.1L) || !(x > 0)) x = std::pow(target * a * Kornummath::Gamma(a), 1 / a);
     // Halley on f(x) = tail(a, x) - target, tail' = -+ prefix / x.
+    const special::TwoFloat logGamma = LogGammaFor(a);
     for (int step = 0; step < 100; ++step) {
-        const Float value = RegularisedGamma(a, x, upper) - target;
-        const Float density = PowerExpOverGamma(a, x) / x;
+        const Float prefix = PowerExpOverGamma(a, x, logGamma);
+        const Float value = RegularisedGamma(a, x, upper, prefix) - target;
+        const Float density = prefix / x;
         if (!(density > 0)) break;
         const Float slope = upper ? -density : density;
         const Float newton = value / slope;

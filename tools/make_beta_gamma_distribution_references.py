@@ -112,6 +112,15 @@ for a, b in ((0.5, 0.5), (2, 5), (5, 2), (0.3, 3), (20, 30), (200, 150)):
         rows.append(("beta_inv", [p, a, b], inverse(lambda x: mp.betainc(a, b, 0, x, regularized=True), p,
                                                  mpf("1e-700"), 1)))
 
+for lam in (0.001, 1.5, 7):
+    for x in (1e-20, 1e-6, 0.003, 0.2, 0.33, 0.5, 1, 2.75, 10, 44.4, 700, 1500):
+        x, l = exact(x), exact(lam)
+        if l * x > 11000:
+            continue
+        rows.append(("exp_less", [x, l], -mp.expm1(-l * x)))
+        rows.append(("exp_greater", [x, l], mp.exp(-l * x)))
+        rows.append(("exp_pdf", [x, l], l * mp.exp(-l * x)))
+
 print("# kind\targuments...\tvalue (mpmath, 200 bits, at the Float arguments)")
 for kind, arguments, value in rows:
     print("\t".join([kind] + [text(v) if not isinstance(v, int) else str(v) for v in arguments] + [text(value)]))

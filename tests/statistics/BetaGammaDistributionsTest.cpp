@@ -1,6 +1,6 @@
-// The incomplete gamma function and the chi-square, Student t, F and beta distributions
-// against mpmath (tools/make_beta_gamma_distribution_references.py): both tails, the
-// densities and the inverses, at the tolerance 1e-19 and at the default one.
+// The incomplete gamma function and the chi-square, Student t, F, beta and exponential
+// distributions against mpmath (tools/make_beta_gamma_distribution_references.py): both
+// tails, the densities and the inverses, at the tolerance 1e-19 and at the default one.
 #include "StatisticsTestSupport.h"
 
 #include <kornum/KornumStatistics.h>
@@ -60,6 +60,9 @@ const std::map<std::string, Routine>& Routines() {
         {"beta_greater", [](auto& a) { return BetaDistGreater(a[0], a[1], a[2]); }},
         {"beta_pdf", [](auto& a) { return BetaPDF(a[0], a[1], a[2]); }},
         {"beta_inv", [](auto& a) { return InvBetaDistLess(a[0], a[1], a[2]); }},
+        {"exp_less", [](auto& a) { return ExponentialLess(a[0], a[1]); }},
+        {"exp_greater", [](auto& a) { return ExponentialGreater(a[0], a[1]); }},
+        {"exp_pdf", [](auto& a) { return ExponentialPDF(a[0], a[1]); }},
     };
     return table;
 }
