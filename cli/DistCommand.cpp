@@ -53,6 +53,9 @@ struct Family {
 };
 
 Integer Whole(Float x) { return Integer(x); }
+// The beta family's optional bounds, [0, 1] when not given.
+Float Lo(const Parameters& p) { return p.size() > 2 ? p[2] : 0; }
+Float Hi(const Parameters& p) { return p.size() > 2 ? p[3] : 1; }
 Cardinal Count(Float x) { return Cardinal(x); }
 
 const std::map<std::string, Family>& Families() {
@@ -85,12 +88,12 @@ const std::map<std::string, Family>& Families() {
           [](Float q, P p) { return InvFDistLess(q, Whole(p[0]), Whole(p[1])); },
           [](Float lo, Float hi, Integer n, P p, TKorFloatVector& X, TKorFloatVector& Y) { FDistPDFValues(lo, hi, n, Whole(p[0]), Whole(p[1]), X, Y); }}},
         {"beta",
-         {2, 4, [](Float x, P p) { return BetaDistLess(x, p[0], p[1], p.size() > 2 ? p[2] : 0, p.size() > 2 ? p[3] : 1); },
-          [](Float x, P p) { return BetaDistGreater(x, p[0], p[1], p.size() > 2 ? p[2] : 0, p.size() > 2 ? p[3] : 1); },
-          [](Float x, P p) { return BetaPDF(x, p[0], p[1], p.size() > 2 ? p[2] : 0, p.size() > 2 ? p[3] : 1); },
-          [](Float q, P p) { return InvBetaDistLess(q, p[0], p[1], p.size() > 2 ? p[2] : 0, p.size() > 2 ? p[3] : 1); },
+         {2, 4, [](Float x, P p) { return BetaDistLess(x, p[0], p[1], Lo(p), Hi(p)); },
+          [](Float x, P p) { return BetaDistGreater(x, p[0], p[1], Lo(p), Hi(p)); },
+          [](Float x, P p) { return BetaPDF(x, p[0], p[1], Lo(p), Hi(p)); },
+          [](Float q, P p) { return InvBetaDistLess(q, p[0], p[1], Lo(p), Hi(p)); },
           [](Float lo, Float hi, Integer n, P p, TKorFloatVector& X, TKorFloatVector& Y) {
-              BetaPDFValues(lo, hi, n, p[0], p[1], p.size() > 2 ? p[2] : 0, p.size() > 2 ? p[3] : 1, X, Y);
+              BetaPDFValues(lo, hi, n, p[0], p[1], Lo(p), Hi(p), X, Y);
           }}},
         {"exponential",
          {1, 1, [](Float x, P p) { return ExponentialLess(x, p[0]); }, [](Float x, P p) { return ExponentialGreater(x, p[0]); },

@@ -104,9 +104,7 @@ inline ValueOf<E> ValueAt(const Matrix<E>& M, Integer row, LongWord col) noexcep
 
 // ---- Checks ----------------------------------------------------------------------------
 
-inline void Require(bool holds, const Platform::ResourceString& message) {
-    if (!holds) Platform::Raise(message);
-}
+using Platform::Require;
 
 // Emptiness first, then shape: the order of the row and column operations.
 inline void RequireFilledRectangle(const Shape& s) {

@@ -15,4 +15,9 @@ template <class E = EMathError>
     throw E(resource.Text());
 }
 
+// Raises the failure unless the condition holds: the check every routine begins with.
+inline void Require(bool Holds, const ResourceString& resource) {
+    if (!Holds) Raise(resource);
+}
+
 }  // namespace Platform

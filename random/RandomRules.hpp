@@ -19,9 +19,7 @@ using std::sqrt;
 // The large guard of the continuous generators.
 inline constexpr Float VLarge = 1.7E308L;
 
-inline void Require(bool holds, const Platform::ResourceString& message) {
-    if (!holds) Platform::Raise(message);
-}
+using Platform::Require;
 
 // Truncation toward zero to an integer.
 inline Int64 Trunc(Float x) noexcept { return Int64(x); }

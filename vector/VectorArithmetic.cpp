@@ -107,16 +107,13 @@ Float Angle(const TKorVector<E>& V1, const TKorVector<E>& V2) {
     return Kornummath::KorArcCos(Float(DotProduct(V1, V2)) / (m1 * m2));
 }
 
-template <class E>
-void Require(bool passed, const Platform::ResourceString& failure) {
-    if (!passed) Platform::Raise(failure);
-}
+using Platform::Require;
 
 // Ln, Log10 and Log2 share their validation; the results are formed in Float and
 // stored in the element type.
 template <class E, class Log>
 void Logarithm(const TKorVector<E>& V, Log log) {
-    Require<E>(IsPositive(V), rsVectorNotPos);
+    Require(IsPositive(V), rsVectorNotPos);
     Rewrite(V, [log](ValueOf<E> x) { return ValueOf<E>(log(Float(x))); });
 }
 
@@ -190,11 +187,11 @@ KORNUM_MEMBERS_SIGN_TESTS(KORNUM_DEFINE_LINEAR)
 
 #define KORNUM_DEFINE_FLOATING_TRANSFORMS(VT, T)                                             \
     void SqrtVector(VT& V) {                                                                 \
-        detail::Require<VT::value_type>(detail::IsNonNegative(V), detail::rsVectorNeg);      \
+        detail::Require(detail::IsNonNegative(V), detail::rsVectorNeg);                      \
         detail::Rewrite(V, [](T x) { return T(std::sqrt(x)); });                      \
     }                                                                                        \
     void InvVector(VT& V) {                                                                  \
-        detail::Require<VT::value_type>(detail::IsNonZero(V), detail::rsVectorZero);         \
+        detail::Require(detail::IsNonZero(V), detail::rsVectorZero);                         \
         detail::Rewrite(V, [](T x) { return T(1) / x; });                                    \
     }                                                                                        \
     void LnVector(VT& V) {                                                                   \
