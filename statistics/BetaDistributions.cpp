@@ -9,6 +9,7 @@
 
 #include "../core/KorGammaSupport.h"
 #include "NegativeExponential.hpp"
+#include "StudentTailSeries.hpp"
 
 #include <cmath>
 #include <limits>
@@ -33,12 +34,19 @@ TwoFloat LogOnePlus(TwoFloat u) { return special::Log(special::TwoSum(1, u.hi) +
 
 // ---- Student's t ---------------------------------------------------------------------------
 
-// P(T > |t|) = I_x(df/2, 1/2) / 2 with x = df / (df + t^2). Where that comes out large
-// (near 1/2, t small) x is near 1 and its rounding would show; there the central half,
+// P(T > |t|): in closed form for one degree of freedom, atan(1 / |t|) / pi, and for up
+// to StudentClosedFormLimit through the finite sums of StudentTailSeries.hpp. Otherwise
+// I_x(df/2, 1/2) / 2 with x = df / (df + t^2). Where that comes out large (near 1/2, t
+// small) x is near 1 and its rounding would show; there the central half,
 // I_y(1/2, df/2) / 2 with y = t^2 / (df + t^2), is small and gives the tail as 1/2 minus
 // it. Each argument is formed directly, never as 1 - the other.
 Float StudentTail(Float t, Integer df) {
     if (std::isinf(t)) return 0;
+    constexpr Float InversePi = 0.318309886183790671537767526745028724L;
+    if (df == 1) return std::atan(1 / std::fabs(t)) * InversePi;
+    Float closed;
+    if (df <= detail::StudentClosedFormLimit && detail::StudentTailClosedForm(std::fabs(t), df, closed))
+        return closed;
     const Float n = df, t2 = t * t;
     const auto central = [&] { return (1 - IncompleteBeta(t2 / (n + t2), 0.5L, n / 2)) / 2; };
     if (t2 < 0.45L) return central();  // |t| < 0.67: the tail is above 1/4 for every df
