@@ -9,7 +9,7 @@
 
 #include "../core/KorGammaSupport.h"
 #include "NegativeExponential.hpp"
-#include "StudentTailSeries.hpp"
+#include "StudentWholeDegrees.hpp"
 
 #include <cmath>
 #include <limits>
@@ -35,15 +35,14 @@ TwoFloat LogOnePlus(TwoFloat u) { return special::Log(special::TwoSum(1, u.hi) +
 // ---- Student's t ---------------------------------------------------------------------------
 
 // P(T > |t|): in closed form for one degree of freedom, atan(1 / |t|) / pi, and for up
-// to StudentClosedFormLimit through the finite sums of StudentTailSeries.hpp. Otherwise
+// to StudentClosedFormLimit through the finite sums of StudentWholeDegrees.hpp. Otherwise
 // I_x(df/2, 1/2) / 2 with x = df / (df + t^2). Where that comes out large (near 1/2, t
 // small) x is near 1 and its rounding would show; there the central half,
 // I_y(1/2, df/2) / 2 with y = t^2 / (df + t^2), is small and gives the tail as 1/2 minus
 // it. Each argument is formed directly, never as 1 - the other.
 Float StudentTail(Float t, Integer df) {
     if (std::isinf(t)) return 0;
-    constexpr Float InversePi = 0.318309886183790671537767526745028724L;
-    if (df == 1) return std::atan(1 / std::fabs(t)) * InversePi;
+    if (df == 1) return std::atan(1 / std::fabs(t)) * detail::InversePi;
     Float closed;
     if (df <= detail::StudentClosedFormLimit && detail::StudentTailClosedForm(std::fabs(t), df, closed))
         return closed;
@@ -153,6 +152,10 @@ Float InvStudentTLess(Float P, Integer DF) {
     if (P == 1) return Infinity;
     if (P == 0.5L) return 0;
     const Float tail = P < 0.5L ? P : 1 - P;  // 1 - P is exact for P >= 1/2
+    if (DF <= detail::StudentClosedFormLimit) {
+        const Float t = detail::InverseStudentTailClosedForm(tail, DF, [DF](Float u) { return StudentTail(u, DF); });
+        return P < 0.5L ? -t : t;
+    }
     const Float n = DF;
     const auto central = [&] {
         const Float y = InverseIncompleteBeta(1 - 2 * tail, 0.5L, n / 2);

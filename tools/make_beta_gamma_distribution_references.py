@@ -89,12 +89,17 @@ for n in (1, 2, 3, 7, 30, 100):
         p = exact(p)
         rows.append(("t_inv", [p, n], inverse(lambda t: 1 - t_greater(t, n) if t > 0 else t_greater(-t, n), p,
                                               mpf("1e-40"), mpf(10) ** 260, negative=p < 0.5)))
-# Whole degrees of freedom have two closed forms split at t^2 = n / 3, and a limit at 60.
+# Whole degrees of freedom have two closed forms split at t^2 = n / 3, a limit at 60, and an
+# inverse that changes its equation at a tail of 1/4.
 for n in (4, 5, 16, 20, 59, 60, 61):
     for f in (0.25, 0.99, 1.01, 1.5, 3, 40):
         t = exact(f * mp.sqrt(mpf(n) / 3))
         rows.append(("t_less", [t, n], 1 - t_greater(t, n)))
         rows.append(("t_greater", [t, n], t_greater(t, n)))
+    for p in ("1e-250", "1e-7", "0.2499", "0.25", "0.4999999"):
+        p = exact(p)
+        rows.append(("t_inv", [p, n], inverse(lambda t: 1 - t_greater(t, n) if t > 0 else t_greater(-t, n), p,
+                                              mpf("1e-40"), mpf(10) ** 260, negative=p < 0.5)))
 for n1, n2 in ((1, 1), (2, 7), (5, 3), (10, 40), (60, 60)):
     for x in (1e-6, 0.2, 1, 3.5, 40, 1e8):
         x = exact(x)
