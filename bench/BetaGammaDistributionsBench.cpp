@@ -63,7 +63,7 @@ void Run(benchmark::State& state, const std::vector<Float>& values, Function fun
 }
 
 const bm::chi_squared_distribution<Float> chi(7);
-const bm::students_t_distribution<Float> student(7);
+const bm::students_t_distribution<Float> student(7), student100(100);
 const bm::fisher_f_distribution<Float> fisher(5, 12);
 const bm::beta_distribution<Float> betaDist(2.5L, 4);
 const bm::exponential_distribution<Float> expo(1.5L);
@@ -89,6 +89,9 @@ KORNUM_PAIR(InvChiSquareLess, probabilities, InvChiSquareLess(x, 7), bm::quantil
 KORNUM_PAIR(StudentTLess, tPoints, StudentTLess(x, 7), bm::cdf(student, x))
 KORNUM_PAIR(StudentTGreater, tPoints, StudentTGreater(x, 7), bm::cdf(bm::complement(student, x)))
 KORNUM_PAIR(InvStudentTLess, probabilities, InvStudentTLess(x, 7), bm::quantile(student, x))
+// Beyond 60 degrees of freedom the t family leaves its closed forms for the incomplete beta.
+KORNUM_PAIR(StudentTLess100, tPoints, StudentTLess(x, 100), bm::cdf(student100, x))
+KORNUM_PAIR(InvStudentTLess100, probabilities, InvStudentTLess(x, 100), bm::quantile(student100, x))
 KORNUM_PAIR(FDistLess, fPoints, FDistLess(x, 5, 12), bm::cdf(fisher, x))
 KORNUM_PAIR(FDistGreater, fPoints, FDistGreater(x, 5, 12), bm::cdf(bm::complement(fisher, x)))
 KORNUM_PAIR(InvFDistLess, probabilities, InvFDistLess(x, 5, 12), bm::quantile(fisher, x))

@@ -240,4 +240,8 @@ struct BetaParts {
 
 BetaParts SplitBeta(Float a, Float b);
 
+// I_x(a, b) for x = hi + lo strictly inside (0, 1) and a, b > 0 finite, keeping the digits
+// of x beyond one Float (x^a magnifies the relative error of x by a).
+Float IncompleteBeta(TwoFloat x, Float a, Float b);
+
 }  // namespace Kornummath::special

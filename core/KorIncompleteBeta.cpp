@@ -35,13 +35,10 @@ using special::Epsilon;
 
 constexpr Float NaN = std::numeric_limits<Float>::quiet_NaN();
 
-// ln(1 - x) for x in (0, 1): below 1/2 the rounded complement y is corrected by its
-// exact residual (1 - x) - y.
-special::TwoFloat LogComplement(Float x) {
-    const Float y = 1 - x;
-    if (x >= 0.5L) return special::Log(y);  // exact complement
-    return special::Log(y) + special::TwoFloat{((1 - y) - x) / y, 0};
-}
+using special::TwoFloat;
+
+// ln(1 - x) for x in (0, 1), x and 1 - x given as unevaluated sums.
+TwoFloat LogComplement(TwoFloat x) { return special::Log(TwoFloat{1, 0} - x); }
 
 // ln(1 + u) - u + u^2 / 2 for |u| <= 1/8. With t = u / (2 + u), ln(1 + u) = 2 atanh t and
 // u - u^2 / 2 = 2t + u^2 t / 2 - ..., which leaves u^2 t / 2 + 2 (t^3 / 3 + t^5 / 5 + ...):
@@ -61,7 +58,7 @@ Float LogCubicRemainder(Float u) {
 // centre of the distribution, all in two Floats: both the prefix and the continued
 // fraction need w free of the cancellation in s x - a.
 struct Offset {
-    Offset(Float x, Float a, Float b)
+    Offset(TwoFloat x, Float a, Float b)
         : s(special::TwoSum(a, b)), sx(s * x), w(sx - special::TwoFloat{a, 0}) {}
     special::TwoFloat s, sx, w;
 };
@@ -116,7 +113,7 @@ private:
 };
 
 // x^a (1 - x)^b / B(a, b) for x in (0, 1).
-Float BetaPrefix(Float x, Float a, Float b, const Offset& offset, LazyBeta& lazyBeta) {
+Float BetaPrefix(TwoFloat x, Float a, Float b, const Offset& offset, LazyBeta& lazyBeta) {
     Float centre;
     if (CentrePrefix(a, b, offset, centre)) return centre;
     const special::BetaParts& beta = lazyBeta.Get();
@@ -224,21 +221,22 @@ struct BetaValue {
     Float prefix;  // x^a (1 - x)^b / B(a, b), so that the density is prefix / (x (1 - x))
 };
 
-// I_x(a, b) and its prefix for x strictly inside (0, 1) and valid a, b.
-BetaValue EvaluateIncompleteBeta(Float x, Float a, Float b, LazyBeta& beta) {
+// I_x(a, b) and its prefix for x strictly inside (0, 1) and valid a, b. x comes as an
+// unevaluated sum, so that a caller who knows x beyond one Float (x = n / (n + t^2)) keeps
+// those digits: x^a magnifies the relative error of x by a.
+BetaValue EvaluateIncompleteBeta(TwoFloat x, Float a, Float b, LazyBeta& beta) {
     const Offset offset(x, a, b);
     const Float prefix = BetaPrefix(x, a, b, offset, beta);
-    const bool lower = x * (a + b + 2) < a + 1;
+    const bool lower = x.hi * (a + b + 2) < a + 1;
     if (prefix == 0) return {lower ? Float(0) : Float(1), prefix};
-    using special::TwoFloat;
     if (lower) {
         const Float oneMinusW = (TwoFloat{1, 0} - offset.w).hi;
-        return {prefix * BetaFraction(x, a, b, oneMinusW, offset.sx.hi) / a, prefix};
+        return {prefix * BetaFraction(x.hi, a, b, oneMinusW, offset.sx.hi) / a, prefix};
     }
     // The mirrored problem (1 - x, b, a) has the offset -w and s (1 - x) = s - s x.
     const Float onePlusW = (TwoFloat{1, 0} + offset.w).hi;
     const Float mirroredSx = (offset.s - offset.sx).hi;
-    return {1 - prefix * BetaFraction(1 - x, b, a, onePlusW, mirroredSx) / b, prefix};
+    return {1 - prefix * BetaFraction((TwoFloat{1, 0} - x).hi, b, a, onePlusW, mirroredSx) / b, prefix};
 }
 
 bool ValidShapes(Float a, Float b) {
@@ -273,7 +271,7 @@ Float SolveLowerTail(Float p, Float a, Float b) {
     Float x = InitialGuess(p, a, b);
     if (!(x > 0 && x < 1)) x = 0.5L;
     for (int iteration = 0; iteration < 100; ++iteration) {
-        const BetaValue v = EvaluateIncompleteBeta(x, a, b, beta);
+        const BetaValue v = EvaluateIncompleteBeta({x, 0}, a, b, beta);
         const Float error = v.value - p;
         if (error == 0) return x;
         if (error < 0) lo = x; else hi = x;
@@ -309,8 +307,19 @@ Float IncompleteBeta(Float X, Float A, Float B) {
     if (X == 0) return 0;
     if (X == 1) return 1;
     LazyBeta beta(A, B);
-    return EvaluateIncompleteBeta(X, A, B, beta).value;
+    return EvaluateIncompleteBeta({X, 0}, A, B, beta).value;
 }
+
+namespace special {
+
+Float IncompleteBeta(TwoFloat x, Float a, Float b) {
+    if (x.hi <= 0) return 0;
+    if (x.hi >= 1 && x.lo >= 0) return 1;
+    LazyBeta beta(a, b);
+    return EvaluateIncompleteBeta(x, a, b, beta).value;
+}
+
+}  // namespace special
 
 Float InverseIncompleteBeta(Float P, Float A, Float B) {
     if (!ValidShapes(A, B) || !(P >= 0 && P <= 1)) return NaN;

@@ -39,17 +39,19 @@ TwoFloat LogOnePlus(TwoFloat u) { return special::Log(special::TwoSum(1, u.hi) +
 // I_x(df/2, 1/2) / 2 with x = df / (df + t^2). Where that comes out large (near 1/2, t
 // small) x is near 1 and its rounding would show; there the central half,
 // I_y(1/2, df/2) / 2 with y = t^2 / (df + t^2), is small and gives the tail as 1/2 minus
-// it. Each argument is formed directly, never as 1 - the other.
+// it. Each argument is formed directly, never as 1 - the other, and passed on in two
+// Floats: x^(df/2) would magnify the rounding of one Float by df / 2.
 Float StudentTail(Float t, Integer df) {
     if (std::isinf(t)) return 0;
     if (df == 1) return std::atan(1 / std::fabs(t)) * detail::InversePi;
     Float closed;
     if (df <= detail::StudentClosedFormLimit && detail::StudentTailClosedForm(std::fabs(t), df, closed))
         return closed;
-    const Float n = df, t2 = t * t;
-    const auto central = [&] { return (1 - IncompleteBeta(t2 / (n + t2), 0.5L, n / 2)) / 2; };
-    if (t2 < 0.45L) return central();  // |t| < 0.67: the tail is above 1/4 for every df
-    const Float tail = IncompleteBeta(n / (n + t2), n / 2, 0.5L) / 2;
+    const Float n = df;
+    const detail::StudentRatiosExact r = detail::MakeStudentRatiosExact(std::fabs(t), n);
+    const auto central = [&] { return (1 - special::IncompleteBeta(r.y, 0.5L, n / 2)) / 2; };
+    if (t * t < 0.45L) return central();  // |t| < 0.67: the tail is above 1/4 for every df
+    const Float tail = special::IncompleteBeta(r.x, n / 2, 0.5L) / 2;
     return tail < 0.25L ? tail : central();
 }
 
@@ -142,9 +144,10 @@ Float StudentTPDF(Float T, Integer DF) {
     return ExpOver(e, std::sqrt(n) * Kornummath::Beta(n / 2, 0.5L));
 }
 
-// From the inverse incomplete beta on the smaller tail (P and 1 - P exchanged by the
-// symmetry): through x = df / (df + t^2) in the tails, and through the central
-// probability, y = t^2 / (df + t^2), where x would be near 1 and 1 - x lose its digits.
+// Halley's method on the smaller tail (P and 1 - P exchanged by the symmetry). Up to
+// StudentClosedFormLimit degrees of freedom each step evaluates the closed forms, and the
+// incomplete beta only for a tail they cannot resolve; beyond, the incomplete beta gives
+// the central probability or the tail, and the density is f(0) x^((df + 1) / 2).
 Float InvStudentTLess(Float P, Integer DF) {
     RequireProbability(P);
     RequireDegrees(DF);
@@ -152,44 +155,37 @@ Float InvStudentTLess(Float P, Integer DF) {
     if (P == 1) return Infinity;
     if (P == 0.5L) return 0;
     const Float tail = P < 0.5L ? P : 1 - P;  // 1 - P is exact for P >= 1/2
-    if (DF <= detail::StudentClosedFormLimit) {
-        const Float t = detail::InverseStudentTailClosedForm(tail, DF, [DF](Float u) { return StudentTail(u, DF); });
-        return P < 0.5L ? -t : t;
-    }
     const Float n = DF;
-    const auto central = [&] {
-        const Float y = InverseIncompleteBeta(1 - 2 * tail, 0.5L, n / 2);
-        return std::sqrt(n * y / (1 - y));
+    const bool closed = DF <= detail::StudentClosedFormLimit;
+    const Float densityAtZero =
+        closed ? detail::StudentDensityAtZero(DF) : 1 / (std::sqrt(n) * Kornummath::Beta(n / 2, 0.5L));
+    const auto evaluate = [&](Float t, bool onCentral) -> detail::StudentPoint {
+        if (closed) {
+            const detail::StudentClosedForm v = detail::EvaluateStudentClosedForm(t, DF);
+            return {v.central, onCentral || v.tailKept ? v.tail : 2 * StudentTail(t, DF), v.density, v.x};
+        }
+        const detail::StudentRatiosExact r = detail::MakeStudentRatiosExact(t, n);
+        const Float density = densityAtZero * std::pow(r.x.hi, (n + 1) / 2);
+        if (onCentral) return {special::IncompleteBeta(r.y, 0.5L, n / 2), 0, density, r.x.hi};
+        return {0, 2 * StudentTail(t, DF), density, r.x.hi};
     };
-    Float t;
-    if (tail >= 0.25L) {
-        t = central();
-    } else {
-        const Float x = InverseIncompleteBeta(2 * tail, n / 2, 0.5L);
-        t = x <= 0.5L ? std::sqrt(n * (1 - x) / x) : central();
-    }
-    // In the far tails a Newton step on the tail itself mends what the inverse incomplete
-    // beta leaves (parts in 1e12 at a tail of 1e-10 with 100 degrees of freedom).
-    if (tail < 1e-6L && std::isfinite(t) && t > 0) {
-        const Float density = StudentTPDF(t, DF);
-        if (density > 0) t += (StudentTail(t, DF) - tail) / density;
-    }
+    const Float t = detail::InverseStudentTail(tail, DF, densityAtZero, evaluate);
     return P < 0.5L ? -t : t;
 }
 
 // ---- F ----------------------------------------------------------------------------------------
 
-// Of the two tails, the one whose incomplete-beta argument is at most 1/2 is computed
-// directly and the other as 1 minus it: an argument near 1 would carry its rounding into
-// the result magnified (by 3,000 for F(1, 1) at 1e8), and the small tail keeps its
-// digits either way.
+// Each tail is its own incomplete beta, which takes the small side directly and the large
+// one as 1 minus its mirror; the arguments are formed from the exact product N1 X and
+// passed on in two Floats, so that neither argument's rounding shows in the result
+// (x^(N1 / 2) would magnify the rounding of one Float by N1 / 2).
 Float FDistTail(Float X, Integer N1, Integer N2, bool upper) {
-    if (std::isinf(X)) return upper ? 0 : 1;
-    const Float a = N1 * X, b = N2;
-    const bool lowerDirect = a <= b;  // y = a / (a + b) <= 1/2
-    const Float direct = lowerDirect ? IncompleteBeta(a / (a + b), Float(N1) / 2, Float(N2) / 2)
-                                     : IncompleteBeta(b / (b + a), Float(N2) / 2, Float(N1) / 2);
-    return upper == lowerDirect ? 1 - direct : direct;
+    const TwoFloat a = special::TwoProduct(N1, X);
+    if (!std::isfinite(a.hi)) return upper ? 0 : 1;
+    const Float b = N2;
+    const TwoFloat sum = special::TwoSum(b, a.hi) + TwoFloat{a.lo, 0};
+    return upper ? special::IncompleteBeta(TwoFloat{b, 0} / sum, b / 2, Float(N1) / 2)
+                 : special::IncompleteBeta(a / sum, Float(N1) / 2, b / 2);
 }
 
 Float FDistLess(Float X, Integer N1, Integer N2) {
@@ -232,14 +228,16 @@ Float InvFDistLess(Float P, Integer N1, Integer N2) {
 
 // ---- Beta on [Lo, Hi] --------------------------------------------------------------------------
 
-// As for F: the tail whose argument is at most 1/2 directly, the other as 1 minus it.
+// As for F: each tail its own incomplete beta, at z = (X - Lo) / (Hi - Lo) or
+// w = (Hi - X) / (Hi - Lo) in two Floats from the exact differences.
 Float BetaTail(Float X, Float A, Float B, Float Lo, Float Hi, bool upper) {
-    const Float z = (X - Lo) / (Hi - Lo), w = (Hi - X) / (Hi - Lo);
-    if (z <= 0) return upper ? 1 : 0;
-    if (w <= 0) return upper ? 0 : 1;
-    const bool lowerDirect = z <= 0.5L;
-    const Float direct = lowerDirect ? IncompleteBeta(z, A, B) : IncompleteBeta(w, B, A);
-    return upper == lowerDirect ? 1 - direct : direct;
+    const TwoFloat range = special::TwoSum(Hi, -Lo);
+    TwoFloat z = special::TwoSum(X, -Lo) / range, w = special::TwoSum(Hi, -X) / range;
+    if (!std::isfinite(z.lo) || !std::isfinite(w.lo))  // a difference beyond the range of Float
+        z = {(X - Lo) / (Hi - Lo), 0}, w = {(Hi - X) / (Hi - Lo), 0};
+    if (z.hi <= 0) return upper ? 1 : 0;
+    if (w.hi <= 0) return upper ? 0 : 1;
+    return upper ? special::IncompleteBeta(w, B, A) : special::IncompleteBeta(z, A, B);
 }
 
 Float BetaDistLess(Float X, Float A, Float B, Float Lo, Float Hi) {

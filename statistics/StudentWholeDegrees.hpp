@@ -53,18 +53,28 @@ inline constexpr StudentCoefficients MakeStudentCoefficients() {
 
 inline constexpr StudentCoefficients StudentSeries = MakeStudentCoefficients();
 
-// x = n / (n + t^2) and 1 - x = t^2 / (n + t^2), each formed directly and to about half an
-// ulp from the exact square of t.
+// x = n / (n + t^2) and 1 - x = t^2 / (n + t^2), each formed directly from the exact
+// square of t and kept to about 2^-120 as an unevaluated sum.
+struct StudentRatiosExact {
+    Kornummath::special::TwoFloat x, y;
+};
+
+inline StudentRatiosExact MakeStudentRatiosExact(Float t, Float n) {
+    using namespace Kornummath::special;
+    if (t > 1e1000L) return {{n / t / t, 0}, {1, 0}};  // t^2 would overflow; x is beyond 1e-2000
+    const TwoFloat square = TwoProduct(t, t);
+    const TwoFloat denominator = TwoSum(n, square.hi) + TwoFloat{square.lo, 0};
+    return {TwoFloat{n, 0} / denominator, square / denominator};
+}
+
+// The same rounded to a Float each, within about half an ulp.
 struct StudentRatios {
     Float x, y;
 };
 
 inline StudentRatios MakeStudentRatios(Float t, Float n) {
-    using namespace Kornummath::special;
-    if (t > 1e1000L) return {n / t / t, 1};  // t^2 would overflow; x is beyond 1e-2000
-    const TwoFloat square = TwoProduct(t, t);
-    const TwoFloat denominator = TwoSum(n, square.hi) + TwoFloat{square.lo, 0};
-    return {(TwoFloat{n, 0} / denominator).hi, (square / denominator).hi};
+    const StudentRatiosExact r = MakeStudentRatiosExact(t, n);
+    return {r.x.hi, r.y.hi};
 }
 
 inline constexpr Float InversePi = 0.318309886183790671537767526745028724L;
@@ -122,10 +132,16 @@ inline bool StudentTailClosedForm(Float t, Integer n, Float& tail) {
     return v.tailKept;
 }
 
+// A point of the distribution for the inverse: the two probabilities, of which the solver
+// names the one it needs at full relative precision, the density f(t), and n / (n + t^2).
+struct StudentPoint {
+    Float central, tail, density, x;  // P(|T| < t), P(|T| > t), f(t), x
+};
+
 // A first t for P(T > t) = tail < 1/4: the Cornish-Fisher expansion around the normal
 // quantile, good in the body, unless it exceeds the power law that bounds the tail from
 // above, P(T > t) < f(0) n^((n - 1) / 2) t^-n, whose root is then the better start.
-inline Float StudentFirstGuess(Float tail, Integer n) {
+inline Float StudentFirstGuess(Float tail, Integer n, Float densityAtZero) {
     // The normal quantile to within 3e-3 (a classical rational approximation).
     const Float w = std::sqrt(-2 * std::log(tail));
     const Float z = w - (2.30753L + 0.27061L * w) / (1 + w * (0.99229L + w * 0.04481L));
@@ -134,37 +150,33 @@ inline Float StudentFirstGuess(Float tail, Integer n) {
                 g3 = (((3 * z2 + 19) * z2 + 17) * z2 - 15) * z / 384,
                 g4 = ((((79 * z2 + 776) * z2 + 1482) * z2 - 1920) * z2 - 945) * z / 92160;
     const Float expansion = z + (g1 + (g2 + (g3 + g4 / d) / d) / d) / d;
-    const Float powerLaw =
-        std::exp((std::log(StudentDensityAtZero(n)) + (d - 1) / 2 * std::log(d) - std::log(tail)) / d);
+    const Float powerLaw = std::exp((std::log(densityAtZero) + (d - 1) / 2 * std::log(d) - std::log(tail)) / d);
     return std::fmin(expansion, powerLaw);
 }
 
-// The t >= 0 with P(T > t) = tail, 0 < tail < 1/2, for 1 <= n <= StudentClosedFormLimit.
-// One and two degrees of freedom invert in closed form; otherwise Halley's method on the
-// closed forms, inside a bracket that only narrows. Where tail >= 1/4 the equation is put
-// on the central probability 1 - 2 tail, exact there and small near t = 0, so that a small
-// t keeps its relative precision. Near a root where neither closed form keeps the tail's
-// precision, preciseTail(t) = P(T > t) by the general method takes over.
-template <class PreciseTail>
-Float InverseStudentTailClosedForm(Float tail, Integer n, PreciseTail preciseTail) {
+// The t >= 0 with P(T > t) = tail, 0 < tail < 1/2. One and two degrees of freedom invert
+// in closed form; otherwise Halley's method inside a bracket that only narrows, with
+// evaluate(t, onCentral) giving the StudentPoint at t. Where tail >= 1/4 the equation is
+// put on the central probability 1 - 2 tail, exact there and small near t = 0, so that a
+// small t keeps its relative precision; elsewhere on the two-sided tail 2 tail.
+template <class Evaluate>
+Float InverseStudentTail(Float tail, Integer n, Float densityAtZero, Evaluate evaluate) {
     constexpr Float Pi = 3.14159265358979323851280895940618620L;
     const bool onCentral = tail >= 0.25L;
     if (n == 1) return onCentral ? std::tan(Pi * (0.5L - tail)) : 1 / std::tan(Pi * tail);
     if (n == 2) return (1 - 2 * tail) / std::sqrt(2 * tail * (1 - tail));
     const Float target = onCentral ? 1 - 2 * tail : 2 * tail;  // exact either way
     // Below the root where on the central probability, which is concave in t.
-    Float t = onCentral ? target / (2 * StudentDensityAtZero(n)) : StudentFirstGuess(tail, n);
+    Float t = onCentral ? target / (2 * densityAtZero) : StudentFirstGuess(tail, n, densityAtZero);
     Float lo = 0, hi = std::numeric_limits<Float>::infinity();
     for (int iteration = 0; iteration < 200; ++iteration) {
-        StudentClosedForm v = EvaluateStudentClosedForm(t, n);
-        const bool near = onCentral || std::fabs(v.tail / target - 1) <= 0x1p-10L;
-        if (!onCentral && near && !v.tailKept) v.tail = 2 * preciseTail(t);
+        const StudentPoint v = evaluate(t, onCentral);
         const Float residual = onCentral ? v.central - target : target - v.tail;  // rises with t
         if (residual == 0) return t;
         (residual < 0 ? lo : hi) = t;
         Float next;
         bool halley = false;
-        if (!near) {
+        if (!onCentral && !(std::fabs(v.tail / target - 1) <= 0x1p-10L)) {
             // Far from the root the tail is nearer a power of t than a line: a Newton step
             // on ln P(|T| > t) against ln t, whose slope is -2 t f(t) / P(|T| > t).
             next = t * std::exp(std::log(v.tail / target) * v.tail / (2 * t * v.density));

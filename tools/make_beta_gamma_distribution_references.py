@@ -100,6 +100,33 @@ for n in (4, 5, 16, 20, 59, 60, 61):
         p = exact(p)
         rows.append(("t_inv", [p, n], inverse(lambda t: 1 - t_greater(t, n) if t > 0 else t_greater(-t, n), p,
                                               mpf("1e-40"), mpf(10) ** 260, negative=p < 0.5)))
+# Many degrees of freedom: x = n / (n + t^2) is raised to the power n / 2.
+for n in (1000, 100000):
+    for t in (0.7, 0.85, 1.28, 3.1, 6):
+        t = exact(t)
+        rows.append(("t_less", [t, n], 1 - t_greater(t, n)))
+        rows.append(("t_greater", [t, n], t_greater(t, n)))
+for p in ("1e-8", "0.1", "0.2499"):
+    p = exact(p)
+    rows.append(("t_inv", [p, 10000], inverse(lambda t: 1 - t_greater(t, 10000) if t > 0 else t_greater(-t, 10000), p,
+                                              mpf("1e-40"), mpf(10) ** 260, negative=True)))
+# Skewed F and beta distributions whose small tail lies beyond the argument 1/2.
+for n1, n2, x in ((1000, 3, 0.01), (1000, 3, 0.5), (3, 1000, 10), (3, 1000, 3), (2000, 5000, 0.5), (2000, 5000, 2)):
+    x = exact(x)
+    rows.append(("f_less", [x, n1, n2], f_less(x, n1, n2)))
+    rows.append(("f_greater", [x, n1, n2], f_greater(x, n1, n2)))
+def ibeta(a, b, x):
+    """I_x(a, b), through its mirror where mpmath's series for x itself does not converge."""
+    try:
+        return mp.betainc(a, b, 0, x, regularized=True)
+    except ValueError:
+        return 1 - mp.betainc(b, a, 0, 1 - x, regularized=True)
+
+
+for a, b, x in ((500, 1.5, 0.77), (500, 1.5, 0.9), (1.5, 500, 0.1), (2000, 3000, 0.2), (2000, 3000, 0.6)):
+    a, b, x = exact(a), exact(b), exact(x)
+    rows.append(("beta_less", [x, a, b], ibeta(a, b, x)))
+    rows.append(("beta_greater", [x, a, b], ibeta(b, a, 1 - x)))
 for n1, n2 in ((1, 1), (2, 7), (5, 3), (10, 40), (60, 60)):
     for x in (1e-6, 0.2, 1, 3.5, 40, 1e8):
         x = exact(x)
