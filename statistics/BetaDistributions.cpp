@@ -169,7 +169,7 @@ Float InvStudentTLess(Float P, Integer DF) {
         if (onCentral) return {special::IncompleteBeta(r.y, 0.5L, n / 2), 0, density, r.x.hi};
         return {0, 2 * StudentTail(t, DF), density, r.x.hi};
     };
-    const Float t = detail::InverseStudentTail(tail, DF, densityAtZero, evaluate);
+    const Float t = detail::InverseStudentTail(tail, -InvNormalLess(tail), DF, densityAtZero, evaluate);
     return P < 0.5L ? -t : t;
 }
 

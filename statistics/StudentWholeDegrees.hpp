@@ -138,13 +138,11 @@ struct StudentPoint {
     Float central, tail, density, x;  // P(|T| < t), P(|T| > t), f(t), x
 };
 
-// A first t for P(T > t) = tail < 1/4: the Cornish-Fisher expansion around the normal
-// quantile, good in the body, unless it exceeds the power law that bounds the tail from
-// above, P(T > t) < f(0) n^((n - 1) / 2) t^-n, whose root is then the better start.
-inline Float StudentFirstGuess(Float tail, Integer n, Float densityAtZero) {
-    // The normal quantile to within 3e-3 (a classical rational approximation).
-    const Float w = std::sqrt(-2 * std::log(tail));
-    const Float z = w - (2.30753L + 0.27061L * w) / (1 + w * (0.99229L + w * 0.04481L));
+// A first t for P(T > t) = tail, given z with P(Z > z) = tail for the standard normal Z:
+// the Cornish-Fisher expansion, good to parts in 1e8 in the body from 100 degrees of
+// freedom on, unless it exceeds the power law that bounds the tail from above,
+// P(T > t) < f(0) n^((n - 1) / 2) t^-n, whose root is then the better start.
+inline Float StudentFirstGuess(Float tail, Float z, Integer n, Float densityAtZero) {
     const Float z2 = z * z, d = n;
     const Float g1 = (z2 + 1) * z / 4, g2 = ((5 * z2 + 16) * z2 + 3) * z / 96,
                 g3 = (((3 * z2 + 19) * z2 + 17) * z2 - 15) * z / 384,
@@ -155,19 +153,19 @@ inline Float StudentFirstGuess(Float tail, Integer n, Float densityAtZero) {
 }
 
 // The t >= 0 with P(T > t) = tail, 0 < tail < 1/2. One and two degrees of freedom invert
-// in closed form; otherwise Halley's method inside a bracket that only narrows, with
-// evaluate(t, onCentral) giving the StudentPoint at t. Where tail >= 1/4 the equation is
+// in closed form; otherwise Halley's method inside a bracket that only narrows, from
+// StudentFirstGuess with the normal quantile z, and with evaluate(t, onCentral) giving
+// the StudentPoint at t. Where tail >= 1/4 the equation is
 // put on the central probability 1 - 2 tail, exact there and small near t = 0, so that a
 // small t keeps its relative precision; elsewhere on the two-sided tail 2 tail.
 template <class Evaluate>
-Float InverseStudentTail(Float tail, Integer n, Float densityAtZero, Evaluate evaluate) {
+Float InverseStudentTail(Float tail, Float z, Integer n, Float densityAtZero, Evaluate evaluate) {
     constexpr Float Pi = 3.14159265358979323851280895940618620L;
     const bool onCentral = tail >= 0.25L;
     if (n == 1) return onCentral ? std::tan(Pi * (0.5L - tail)) : 1 / std::tan(Pi * tail);
     if (n == 2) return (1 - 2 * tail) / std::sqrt(2 * tail * (1 - tail));
     const Float target = onCentral ? 1 - 2 * tail : 2 * tail;  // exact either way
-    // Below the root where on the central probability, which is concave in t.
-    Float t = onCentral ? target / (2 * densityAtZero) : StudentFirstGuess(tail, n, densityAtZero);
+    Float t = StudentFirstGuess(tail, z, n, densityAtZero);
     Float lo = 0, hi = std::numeric_limits<Float>::infinity();
     for (int iteration = 0; iteration < 200; ++iteration) {
         const StudentPoint v = evaluate(t, onCentral);
