@@ -175,6 +175,8 @@ Float InvStudentTLess(Float P, Integer DF) {
 
 // ---- F ----------------------------------------------------------------------------------------
 
+namespace {
+
 // Each tail is its own incomplete beta, which takes the small side directly and the large
 // one as 1 minus its mirror; the arguments are formed from the exact product N1 X and
 // passed on in two Floats, so that neither argument's rounding shows in the result
@@ -187,6 +189,8 @@ Float FDistTail(Float X, Integer N1, Integer N2, bool upper) {
     return upper ? special::IncompleteBeta(TwoFloat{b, 0} / sum, b / 2, Float(N1) / 2)
                  : special::IncompleteBeta(a / sum, Float(N1) / 2, b / 2);
 }
+
+}  // namespace
 
 Float FDistLess(Float X, Integer N1, Integer N2) {
     RequireF(X, N1, N2, Kornum_RS_Math::rsValueGZero, false);
@@ -228,6 +232,8 @@ Float InvFDistLess(Float P, Integer N1, Integer N2) {
 
 // ---- Beta on [Lo, Hi] --------------------------------------------------------------------------
 
+namespace {
+
 // As for F: each tail its own incomplete beta, at z = (X - Lo) / (Hi - Lo) or
 // w = (Hi - X) / (Hi - Lo) in two Floats from the exact differences.
 Float BetaTail(Float X, Float A, Float B, Float Lo, Float Hi, bool upper) {
@@ -239,6 +245,8 @@ Float BetaTail(Float X, Float A, Float B, Float Lo, Float Hi, bool upper) {
     if (w.hi <= 0) return upper ? 0 : 1;
     return upper ? special::IncompleteBeta(w, B, A) : special::IncompleteBeta(z, A, B);
 }
+
+}  // namespace
 
 Float BetaDistLess(Float X, Float A, Float B, Float Lo, Float Hi) {
     RequireBeta(A, B, Lo, Hi);
