@@ -304,10 +304,7 @@ Float SolveLowerTail(Float p, Float a, Float b) {
 
 Float IncompleteBeta(Float X, Float A, Float B) {
     if (!ValidShapes(A, B) || !(X >= 0 && X <= 1)) return NaN;
-    if (X == 0) return 0;
-    if (X == 1) return 1;
-    LazyBeta beta(A, B);
-    return EvaluateIncompleteBeta({X, 0}, A, B, beta).value;
+    return special::IncompleteBeta({X, 0}, A, B);
 }
 
 namespace special {

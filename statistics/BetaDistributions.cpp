@@ -162,7 +162,8 @@ Float InvStudentTLess(Float P, Integer DF) {
     const auto evaluate = [&](Float t, bool onCentral) -> detail::StudentPoint {
         if (closed) {
             const detail::StudentClosedForm v = detail::EvaluateStudentClosedForm(t, DF);
-            return {v.central, onCentral || v.tailKept ? v.tail : 2 * StudentTail(t, DF), v.density, v.x};
+            return {v.central, onCentral || v.tailKept ? v.tail : 2 * StudentTail(t, DF),
+                    densityAtZero * v.falloff, v.x};
         }
         const detail::StudentRatiosExact r = detail::MakeStudentRatiosExact(t, n);
         const Float density = densityAtZero * std::pow(r.x.hi, (n + 1) / 2);

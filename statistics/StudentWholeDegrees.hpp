@@ -67,16 +67,6 @@ inline StudentRatiosExact MakeStudentRatiosExact(Float t, Float n) {
     return {TwoFloat{n, 0} / denominator, square / denominator};
 }
 
-// The same rounded to a Float each, within about half an ulp.
-struct StudentRatios {
-    Float x, y;
-};
-
-inline StudentRatios MakeStudentRatios(Float t, Float n) {
-    const StudentRatiosExact r = MakeStudentRatiosExact(t, n);
-    return {r.x.hi, r.y.hi};
-}
-
 inline constexpr Float InversePi = 0.318309886183790671537767526745028724L;
 
 // The density at 0: Gamma((n + 1) / 2) / (sqrt(n pi) Gamma(n / 2)), which is m a_m / sqrt(n)
@@ -90,38 +80,39 @@ inline Float StudentDensityAtZero(Integer n) {
 struct StudentClosedForm {
     Float central;   // P(|T| < t), to full relative precision
     Float tail;      // P(|T| > t), to full relative precision where tailKept
-    Float density;   // f(t) = f(0) x^((n + 1) / 2)
+    Float falloff;   // f(t) / f(0) = x^((n + 1) / 2)
     Float x;         // n / (n + t^2)
     bool tailKept;
 };
 
-// Both probabilities and the density at t >= 0, for 2 <= n <= StudentClosedFormLimit.
+// Both probabilities and the density's falloff at t >= 0, for 2 <= n <=
+// StudentClosedFormLimit.
 inline StudentClosedForm EvaluateStudentClosedForm(Float t, Integer n) {
     const bool odd = n % 2 != 0;
     const int m = int(n / 2);
     const Float* coefficient = odd ? StudentSeries.odd : StudentSeries.even;
-    const StudentRatios r = MakeStudentRatios(t, Float(n));
-    const Float s = std::sqrt(r.y), c = std::sqrt(r.x);
-    Float power = 1, base = r.x;  // x^m by squaring
+    const StudentRatiosExact r = MakeStudentRatiosExact(t, Float(n));
+    const Float x = r.x.hi, s = std::sqrt(r.y.hi), c = std::sqrt(x);
+    Float power = 1, base = x;  // x^m by squaring
     for (int e = m; e > 0; e >>= 1, base *= base)
         if (e & 1) power *= base;
-    const Float density = StudentDensityAtZero(n) * power * (odd ? r.x : c);
+    const Float falloff = power * (odd ? x : c);
     // Each form ends in the factor s (even) or (2 / pi) s c (odd).
     const Float factor = odd ? 2 * s * c * InversePi : s;
-    if (r.x <= 0.75L) {
+    if (x <= 0.75L) {
         Float term = coefficient[m] * power, sum = term;
         // a_(k+1) / a_k = (2k + 1) / (2k + 2), b_(k+1) / b_k = (2k + 2) / (2k + 3)
         for (Float k = 2 * m + 1 + odd; term > sum * 0x1p-66L; k += 2) {
-            term *= r.x * (k / (k + 1));
+            term *= x * (k / (k + 1));
             sum += term;
         }
         const Float tail = factor * sum;
-        return {1 - tail, tail, density, r.x, true};
+        return {1 - tail, tail, falloff, x, true};
     }
     Float sum = 0;
-    for (int k = m - 1; k >= 0; --k) sum = sum * r.x + coefficient[k];
+    for (int k = m - 1; k >= 0; --k) sum = sum * x + coefficient[k];
     const Float central = (odd ? 2 * InversePi * std::atan(t / std::sqrt(Float(n))) : 0) + factor * sum;
-    return {central, 1 - central, density, r.x, central <= 15.0L / 16};
+    return {central, 1 - central, falloff, x, central <= 15.0L / 16};
 }
 
 // P(T > t) for t >= 0 and 2 <= n <= StudentClosedFormLimit; false where neither form keeps
