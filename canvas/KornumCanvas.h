@@ -7,6 +7,7 @@
 // encoding gives them, in DejaVu Sans, which has the Greek letters and the symbols.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformGraphics.h>
 
 #include <memory>
@@ -14,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-namespace KornumCanvas {
+namespace KORNUM_API KornumCanvas {
 
 enum class TImageFormat { Svg, Png, Pdf };
 

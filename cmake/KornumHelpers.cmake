@@ -13,16 +13,25 @@ function(kornum_public_headers)
   endforeach()
 endfunction()
 
-# A shared library of the package: exported as kornum::<EXPORT_NAME>.
+# A shared library of the package: exported as kornum::<EXPORT_NAME>. Symbols are hidden
+# unless the public headers mark them KORNUM_API (<kornum/KornumExport.h>).
 function(kornum_library target export_name)
   add_library(${target} SHARED)
   add_library(kornum::${export_name} ALIAS ${target})
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${export_name}
     VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR})
+    SOVERSION ${PROJECT_VERSION_MAJOR}
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON)
   target_compile_features(${target} PUBLIC cxx_std_20)
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${KORNUM_BUILD_INCLUDE_DIR}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  # Internal headers are reached from the source root as "MODULE/detail/NAME.hpp".
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_options(${target} PRIVATE
+    -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/KornumExports.map)
+  set_property(TARGET ${target} APPEND PROPERTY
+    LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/KornumExports.map)
 endfunction()

@@ -1,4 +1,4 @@
-#include "AscendingCopy.hpp"
+#include "components/detail/AscendingCopy.hpp"
 
 #include <kornum/KornumVector.h>
 

@@ -1,6 +1,6 @@
 #include <kornum/KornumDescStats.h>
 
-#include "AscendingCopy.hpp"
+#include "components/detail/AscendingCopy.hpp"
 
 #include <kornum/KornumPackage.h>
 #include <kornum/KornumStatistics.h>

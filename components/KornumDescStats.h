@@ -6,13 +6,14 @@
 // setters exist, as for every published property, and do nothing.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 #include <kornum/PlatformComponents.h>
 
 #include <memory>
 #include <span>
 
-namespace KornumDescStats {
+namespace KORNUM_API KornumDescStats {
 
 using namespace Kornumglobals;
 

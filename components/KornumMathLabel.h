@@ -7,11 +7,12 @@
 // and stops at the right edge of the rectangle.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumcontrols.h>
 
 #include <memory>
 
-namespace KornumMathLabel {
+namespace KORNUM_API KornumMathLabel {
 
 using namespace Kornumglobals;
 

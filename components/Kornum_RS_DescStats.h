@@ -4,9 +4,10 @@
 // other message texts (Platform::SetResourceText, Platform::ReplaceResourceTable).
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformResources.h>
 
-namespace Kornum_RS_DescStats {
+namespace KORNUM_API Kornum_RS_DescStats {
 
 using Platform::ResourceString;
 

@@ -1,11 +1,12 @@
 // The element types of vectors and matrices.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <compare>
 #include <cstdint>
 #include <limits>
 
-namespace Kornumglobals {
+namespace KORNUM_API Kornumglobals {
 
 static_assert(std::numeric_limits<long double>::digits == 64,
               "kornum needs long double to be the 80-bit extended format");

@@ -16,7 +16,8 @@
 #include <cmath>
 #include <limits>
 
-#include "KorGammaSupport.h"
+#include "core/detail/BaseLibraryInterface.hpp"
+#include "core/detail/BetaParts.hpp"
 
 namespace Kornummath {
 

@@ -6,6 +6,7 @@
 // to the new length and zero-fills new ones; SetLength(0) releases the storage.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
@@ -16,7 +17,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace Kornumglobals {
+namespace KORNUM_API Kornumglobals {
 
 // The storage of every vector. Large blocks are placed on huge-page boundaries and
 // marked for huge pages, so that filling a vector of millions of elements takes a few

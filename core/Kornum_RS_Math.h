@@ -3,9 +3,10 @@
 // replace the texts (Platform::SetResourceText, Platform::ReplaceResourceTable).
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformResources.h>
 
-namespace Kornum_RS_Math {
+namespace KORNUM_API Kornum_RS_Math {
 
 using Platform::ResourceString;
 

@@ -2,6 +2,7 @@
 // its caption on a Platform::TCanvas.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 #include <kornum/PlatformComponents.h>
 #include <kornum/PlatformGraphics.h>
@@ -10,7 +11,7 @@
 #include <span>
 #include <string>
 
-namespace Kornumcontrols {
+namespace KORNUM_API Kornumcontrols {
 
 using namespace Kornumglobals;
 

@@ -1,12 +1,13 @@
 // Conversions between numbers and text, independent of the C locale.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
 #include <string>
 #include <string_view>
 
-namespace Kornumconvert {
+namespace KORNUM_API Kornumconvert {
 
 using Kornumglobals::Byte;
 using Kornumglobals::Float;

@@ -9,11 +9,12 @@
 // naming the value and the target type; nothing wraps.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
 #include <utility>
 
-namespace Kornumfinancials {
+namespace KORNUM_API Kornumfinancials {
 
 using namespace Kornumglobals;
 

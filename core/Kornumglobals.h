@@ -1,12 +1,13 @@
 // Shared element and container types and the global settings of the base layer.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/KorElementTypes.h>
 #include <kornum/KorVector.h>
 
 #include <string>
 
-namespace Kornumglobals {
+namespace KORNUM_API Kornumglobals {
 
 // Vectors, one per element type. TKorCurrVector and TKorLongCurrVector are the same
 // types as the 32- and 64-bit integer vectors: the module called decides whether the

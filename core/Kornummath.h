@@ -2,11 +2,12 @@
 // and the tolerant float comparisons.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
 #include <limits>
 
-namespace Kornummath {
+namespace KORNUM_API Kornummath {
 
 using Kornumglobals::Double;
 using Kornumglobals::Float;

@@ -1,12 +1,13 @@
 // Showing a message to the user instead of raising it, and the general message texts.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornum_RS_Math.h>
 
 #include <functional>
 #include <string>
 
-namespace Kornummsgs {
+namespace KORNUM_API Kornummsgs {
 
 // The text shown for a value that is not available.
 using Kornum_RS_Math::rsNA;

@@ -1,11 +1,12 @@
 // Small utilities: exchanging two variables and clearing raw memory.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
 #include <utility>
 
-namespace Kornumsystem {
+namespace KORNUM_API Kornumsystem {
 
 using namespace Kornumglobals;
 

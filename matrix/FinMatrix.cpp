@@ -2,8 +2,8 @@
 // own rectangular check and the currency swap, and the arithmetic of stored amounts.
 #include <kornum/KornumFinMatrix.h>
 
-#include "../vector/CurrencyRules.hpp"
-#include "MatrixAlgorithms.hpp"
+#include "vector/detail/CurrencyRules.hpp"
+#include "matrix/detail/MatrixAlgorithms.hpp"
 
 namespace KornumFinMatrix {
 

@@ -24,9 +24,10 @@
 //   the nearest stored unit.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumFinMatrix {
+namespace KORNUM_API KornumFinMatrix {
 
 using namespace Kornumglobals;
 

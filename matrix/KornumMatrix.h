@@ -11,9 +11,10 @@
 // part-way.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumMatrix {
+namespace KORNUM_API KornumMatrix {
 
 using namespace Kornumglobals;
 

@@ -1,6 +1,6 @@
 // Sums and differences, constant multiples, the linear transform, the grand mean, the
 // row and column operations, and the element-wise functions of the floating members.
-#include "MatrixAlgorithms.hpp"
+#include "matrix/detail/MatrixAlgorithms.hpp"
 
 #include <cmath>
 

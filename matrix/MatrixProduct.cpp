@@ -6,7 +6,7 @@
 // for Double and Single. Any loop order that keeps each element's k order gives the same
 // bits, so the product is computed by the blocked kernel, two rows by two columns at a
 // time, with Y's columns copied once into contiguous panels.
-#include "MatrixKernels.hpp"
+#include "matrix/detail/MatrixKernels.hpp"
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,7 @@
 // Row echelon form, rank, determinant and inverse: one forward elimination with partial
 // pivoting, shared by the four, applied to the inverse alongside where there is one, and
 // the determinant's bookkeeping hooked onto its steps.
-#include "MatrixKernels.hpp"
+#include "matrix/detail/MatrixKernels.hpp"
 
 #include <cmath>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 // Creation, the shape probes, copies, rows and columns as vectors, swaps,
 // transposition, the two sorts, and the zero-row and identity tests.
-#include "MatrixAlgorithms.hpp"
+#include "matrix/detail/MatrixAlgorithms.hpp"
 
 namespace KornumMatrix {
 

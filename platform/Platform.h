@@ -2,10 +2,11 @@
 // message, replaceable message texts and the one way to raise a failure.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformExceptions.h>
 #include <kornum/PlatformResources.h>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 // Raises a failure: looks up the text of the identifier in the table in force at this
 // moment and throws E (EMathError unless the routine is documented to raise another

@@ -1,6 +1,7 @@
 // Persistent objects and string lists.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformExceptions.h>
 
 #include <cstdint>
@@ -9,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 // An object whose contents can be copied from another with Assign.
 class TPersistent {

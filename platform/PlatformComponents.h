@@ -2,6 +2,7 @@
 // table of published properties that streaming and inspection read.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformClasses.h>
 
 #include <cstdint>
@@ -10,7 +11,7 @@
 #include <variant>
 #include <vector>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 class TComponent;
 

@@ -2,10 +2,11 @@
 // text and nothing else.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <exception>
 #include <string>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 // Root class: a message text, returned unchanged by what() and Message().
 class Exception : public std::exception {

@@ -8,13 +8,14 @@
 // with any other face a byte is the Latin-1 character of its value.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformClasses.h>
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 struct TRect {
     std::int32_t Left = 0, Top = 0, Right = 0, Bottom = 0;

@@ -3,9 +3,10 @@
 // it holds a fixed seed, so runs are reproducible unless the application seeds it.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <cstdint>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 // Seeds the global generator.
 void RandSeed(std::uint64_t Seed) noexcept;

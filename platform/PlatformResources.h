@@ -4,12 +4,13 @@
 // language) at run time.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 struct ResourceString {
     int Id;

@@ -11,12 +11,13 @@
 // a bracketed, comma-separated list of texts.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/PlatformComponents.h>
 
 #include <string>
 #include <string_view>
 
-namespace Platform {
+namespace KORNUM_API Platform {
 
 // Raised for a text form that cannot be read; the message says what and where.
 class EReadError : public Exception {

@@ -2,7 +2,7 @@
 // source: a TKorUniformFunc returning a Float on [0, 1).
 //
 // Each generator has two overloads: with the source as its last argument, and without,
-// drawing from DelphiRandom (the platform's global generator, which
+// drawing from DefaultRandom (the platform's global generator, which
 // Platform::RandSeed seeds). A generator that uses another hands its source on, so one
 // call draws from one source only. The module keeps no state: every call repeats its
 // whole set-up. Argument checks raise Platform::EMathError before the first uniform is
@@ -10,9 +10,10 @@
 // makes them loop for ever.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumRandom {
+namespace KORNUM_API KornumRandom {
 
 using namespace Kornumglobals;
 
@@ -20,7 +21,7 @@ using namespace Kornumglobals;
 inline constexpr Float KorVSmall = 5.0E-324L;
 
 // The next value of the platform's global uniform generator.
-Float DelphiRandom();
+Float DefaultRandom();
 
 // ---- Normal and exponential ---------------------------------------------------------------
 // Normal: Leva's ratio of uniforms (two uniforms a trial); rsDivideByZero if the

@@ -1,5 +1,5 @@
 // The default uniform source, the normal and exponential generators, and Cauchy.
-#include "RandomRules.hpp"
+#include "random/detail/RandomRules.hpp"
 
 #include <kornum/PlatformRandom.h>
 
@@ -7,7 +7,7 @@ namespace KornumRandom {
 
 using namespace detail;
 
-Float DelphiRandom() { return Platform::Random(); }
+Float DefaultRandom() { return Platform::Random(); }
 
 // Leva's ratio of uniforms with its quadratic bounds; the logarithm is taken only
 // between the two bounds.
@@ -47,8 +47,8 @@ Float Random_Cauchy(TKorUniformFunc RandomGen) {
     }
 }
 
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_Normal, (), (DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_Exponential, (), (DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_Cauchy, (), (DelphiRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_Normal, (), (DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_Exponential, (), (DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_Cauchy, (), (DefaultRandom))
 
 }  // namespace KornumRandom

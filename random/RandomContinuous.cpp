@@ -1,6 +1,6 @@
 // Gamma (two methods by shape), chi-square, Weibull, beta, Student t, generalised
 // inverse Gaussian and von Mises variates.
-#include "RandomRules.hpp"
+#include "random/detail/RandomRules.hpp"
 
 #include <array>
 #include <utility>
@@ -243,12 +243,12 @@ Float Random_von_Mises(Float k, TKorUniformFunc RandomGen) {
     return (r - rlast) / (1 - rlast) - 0.5L < 0 ? -th : th;
 }
 
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_Gamma, (Float s), (s, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_ChiSq, (Integer ndf), (ndf, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_Weibull, (Float a), (a, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_Beta, (Float aa, Float bb), (aa, bb, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_T, (Integer m), (m, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_Inv_Gauss, (Float h, Float b), (h, b, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Float, Random_von_Mises, (Float k), (k, DelphiRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_Gamma, (Float s), (s, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_ChiSq, (Integer ndf), (ndf, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_Weibull, (Float a), (a, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_Beta, (Float aa, Float bb), (aa, bb, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_T, (Integer m), (m, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_Inv_Gauss, (Float h, Float b), (h, b, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Float, Random_von_Mises, (Float k), (k, DefaultRandom))
 
 }  // namespace KornumRandom

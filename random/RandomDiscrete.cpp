@@ -1,6 +1,6 @@
 // Binomial (two methods), negative binomial and Poisson variates, and the multivariate
 // normal.
-#include "RandomRules.hpp"
+#include "random/detail/RandomRules.hpp"
 
 #include <array>
 #include <cstdlib>
@@ -324,13 +324,13 @@ void Random_MVNorm(const TKorFloatVector& H, const TKorFloatVector& D, TKorFloat
     X = result;
 }
 
-KORNUM_FROM_DELPHI_RANDOM(Int64, Random_Binomial1, (Integer n, Float p), (n, p, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Int64, Random_Binomial2, (Int64 n, Float pp), (n, pp, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Int64, Random_Neg_Binomial, (Float sk, Float p), (sk, p, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(Int64, Random_Poisson, (const Float& mu), (mu, DelphiRandom))
-KORNUM_FROM_DELPHI_RANDOM(void, Random_MVNorm,
+KORNUM_FROM_DEFAULT_RANDOM(Int64, Random_Binomial1, (Integer n, Float p), (n, p, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Int64, Random_Binomial2, (Int64 n, Float pp), (n, pp, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Int64, Random_Neg_Binomial, (Float sk, Float p), (sk, p, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(Int64, Random_Poisson, (const Float& mu), (mu, DefaultRandom))
+KORNUM_FROM_DEFAULT_RANDOM(void, Random_MVNorm,
                           (const TKorFloatVector& H, const TKorFloatVector& D, TKorFloatVector& F, TKorFloatVector& X,
                            Integer& Ier),
-                          (H, D, F, X, Ier, DelphiRandom))
+                          (H, D, F, X, Ier, DefaultRandom))
 
 }  // namespace KornumRandom

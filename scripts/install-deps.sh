@@ -12,6 +12,7 @@ packages=(
   libeigen3-dev
   python3-mpmath                  # regenerating the reference tables
   python3-numpy python3-scipy     # the random variates' distribution tests
+  doxygen                         # the API reference (the docs target)
 )
 # With --bench: also what the whole-program benchmark compares against.
 if [ "${1:-}" = "--bench" ]; then

@@ -7,9 +7,9 @@
 #include <kornum/NormalDistributions.h>
 #include <kornum/Platform.h>
 
-#include "../core/KorGammaSupport.h"
-#include "NegativeExponential.hpp"
-#include "StudentWholeDegrees.hpp"
+#include "core/detail/BaseLibraryInterface.hpp"
+#include "statistics/detail/NegativeExponential.hpp"
+#include "statistics/detail/StudentWholeDegrees.hpp"
 
 #include <cmath>
 #include <limits>

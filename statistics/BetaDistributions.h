@@ -7,9 +7,10 @@
 // add up to 1 within rounding.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Cardinal;
 using Kornumglobals::Float;

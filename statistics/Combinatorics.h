@@ -1,9 +1,10 @@
 // Factorials, permutation counts and binomial coefficients as Float values.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Cardinal;
 using Kornumglobals::Float;

@@ -1,9 +1,10 @@
 // Point probabilities and tails of the binomial and Poisson distributions.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Cardinal;
 using Kornumglobals::Float;

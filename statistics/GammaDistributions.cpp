@@ -5,7 +5,7 @@
 #include <kornum/NormalDistributions.h>
 #include <kornum/Platform.h>
 
-#include "../core/KorGammaSupport.h"
+#include "core/detail/ExtendedPrecision.hpp"
 
 #include <array>
 #include <cmath>

@@ -13,9 +13,10 @@
 // are each computed directly (no 1 - x), so small upper tails keep their digits.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::Integer;

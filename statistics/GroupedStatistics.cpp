@@ -1,6 +1,6 @@
 #include <kornum/GroupedStatistics.h>
 
-#include "StatisticsChecks.hpp"
+#include "statistics/detail/StatisticsChecks.hpp"
 
 #include <kornum/KornumVector.h>
 #include <kornum/Kornum_RS_Math.h>

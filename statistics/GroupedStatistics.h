@@ -4,11 +4,12 @@
 // Every routine raises rsVectorIsEmpty when F is empty.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
 #include <limits>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::TKorLWordVector;

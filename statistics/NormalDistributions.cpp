@@ -4,7 +4,7 @@
 #include <kornum/Kornummath.h>
 #include <kornum/Platform.h>
 
-#include "../core/KorGammaSupport.h"
+#include "core/detail/ExtendedPrecision.hpp"
 
 #include <cmath>
 

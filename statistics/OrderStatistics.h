@@ -6,11 +6,12 @@
 // picks. Failures raise Platform::EMathError with a message of Kornum_RS_Math.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
 #include <array>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Boolean;
 using Kornumglobals::Float;

@@ -2,9 +2,10 @@
 // sum of squared errors of a given line. Element i of X pairs with element i of Y.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::TKorFloatVector;

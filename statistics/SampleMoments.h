@@ -8,9 +8,10 @@
 // Kornum_RS_Math, before any output or element is written.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumStatistics {
+namespace KORNUM_API KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::TKorDoubleVector;

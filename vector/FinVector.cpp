@@ -2,8 +2,8 @@
 // rules tables, and the conversions between the currency types.
 #include <kornum/KornumFinVector.h>
 
-#include "CurrencyRules.hpp"
-#include "VectorAlgorithms.hpp"
+#include "vector/detail/CurrencyRules.hpp"
+#include "vector/detail/VectorAlgorithms.hpp"
 
 namespace KornumFinVector {
 

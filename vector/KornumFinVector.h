@@ -21,9 +21,10 @@
 //   nearest integer, ties to even.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumFinVector {
+namespace KORNUM_API KornumFinVector {
 
 using namespace Kornumglobals;
 

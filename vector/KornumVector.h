@@ -8,9 +8,10 @@
 // Kornum_RS_Math identifier, before anything is written.
 #pragma once
 
+#include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KornumVector {
+namespace KORNUM_API KornumVector {
 
 using namespace Kornumglobals;
 

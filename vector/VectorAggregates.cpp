@@ -1,5 +1,5 @@
 // Sums, sums of squares, extreme values and sign tests of one vector.
-#include "VectorAlgorithms.hpp"
+#include "vector/detail/VectorAlgorithms.hpp"
 
 namespace KornumVector {
 

@@ -1,6 +1,6 @@
 // Element-wise arithmetic between vectors, products and distances, magnitude and
 // angle, in-place transforms, the moving average and polynomial evaluation.
-#include "VectorAlgorithms.hpp"
+#include "vector/detail/VectorAlgorithms.hpp"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 // Construction, resizing, filling, copies and conversions of vectors.
-#include "VectorAlgorithms.hpp"
+#include "vector/detail/VectorAlgorithms.hpp"
 
 namespace KornumVector {
 

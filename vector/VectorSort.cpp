@@ -1,6 +1,6 @@
 // Sorting in place, reversal, and the ranking routines that locate values in a sorted
 // copy.
-#include "VectorAlgorithms.hpp"
+#include "vector/detail/VectorAlgorithms.hpp"
 
 namespace KornumVector {
 

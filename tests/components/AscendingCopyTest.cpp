@@ -1,6 +1,6 @@
 // The component's ascending copy is byte for byte what QSortVector leaves, on data full
 // of ties, signs, denormals and infinities, and on the data that needs the fallback.
-#include "../../components/AscendingCopy.hpp"
+#include "components/detail/AscendingCopy.hpp"
 
 #include <kornum/KornumVector.h>
 

@@ -76,7 +76,7 @@ TEST(RandomBasics, BothOverloadsDrawTheSameStream) {
         [] { return Float(Random_Binomial2(500, 0.3L)); }};
     for (std::size_t i = 0; i < withSource.size(); ++i) {
         Platform::RandSeed(77);
-        const Float a = withSource[i](DelphiRandom), b = withSource[i](DelphiRandom);
+        const Float a = withSource[i](DefaultRandom), b = withSource[i](DefaultRandom);
         Platform::RandSeed(77);
         EXPECT_EQ(withoutSource[i](), a) << i;
         EXPECT_EQ(withoutSource[i](), b) << i;

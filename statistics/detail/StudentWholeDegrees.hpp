@@ -17,7 +17,7 @@
 // beta function it replaces.
 #pragma once
 
-#include "../core/KorGammaSupport.h"
+#include "core/detail/ExtendedPrecision.hpp"
 
 #include <kornum/Kornumglobals.h>
 

@@ -10,7 +10,7 @@
 // Internal to the library (not installed).
 #pragma once
 
-#include "MatrixRules.hpp"
+#include "matrix/detail/MatrixRules.hpp"
 
 #include <cstddef>
 #include <vector>

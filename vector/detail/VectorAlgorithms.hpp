@@ -3,8 +3,8 @@
 // the currency module brings its own). Internal to the library (not installed).
 #pragma once
 
-#include "QuickSortScheme.hpp"
-#include "VectorElementRules.hpp"
+#include "vector/detail/QuickSortScheme.hpp"
+#include "vector/detail/VectorElementRules.hpp"
 
 #include <algorithm>
 #include <vector>

@@ -6,7 +6,7 @@
 
 #include <kornum/KornumMatrix.h>
 
-#include "../vector/VectorElementRules.hpp"
+#include "vector/detail/VectorElementRules.hpp"
 
 #include <kornum/KornumVector.h>
 #include <kornum/Kornumsystem.h>

@@ -4,7 +4,7 @@
 // differences of the currency members are all here. Internal to the library.
 #pragma once
 
-#include "VectorElementRules.hpp"
+#include "vector/detail/VectorElementRules.hpp"
 
 #include <kornum/Kornumfinancials.h>
 

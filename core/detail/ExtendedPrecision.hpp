@@ -1,4 +1,5 @@
-// Internal helpers shared by the gamma/beta and incomplete-beta sources. Not installed.
+// Arithmetic in two Floats and the gamma function in pieces, inline and header-only:
+// compiled into each library that includes it, so it is no interface between them.
 //
 // Results such as Beta(a, b) or x^a (1 - x)^b / Beta(a, b) are exp(E) with E a sum of
 // terms like a ln x that reach 1e4 and more while E itself may be small: one Float for E
@@ -230,18 +231,5 @@ inline GammaParts SplitGamma(TwoFloat x) {
                               TwoFloat{StirlingRemainder(inverse) + z.lo * slope, 0};
     return {logGamma, product};
 }
-
-// Beta(a, b) = exp(logBeta) / ratio for a, b > 0, with ratio the quotient
-// product(a) product(b) / product(a + b) of the shift products of SplitGamma.
-struct BetaParts {
-    TwoFloat logBeta;
-    TwoFloat ratio;
-};
-
-BetaParts SplitBeta(Float a, Float b);
-
-// I_x(a, b) for x = hi + lo strictly inside (0, 1) and a, b > 0 finite, keeping the digits
-// of x beyond one Float (x^a magnifies the relative error of x by a).
-Float IncompleteBeta(TwoFloat x, Float a, Float b);
 
 }  // namespace Kornummath::special

@@ -3,9 +3,9 @@
 // swap). Internal to the library (not installed).
 #pragma once
 
-#include "MatrixRules.hpp"
+#include "matrix/detail/MatrixRules.hpp"
 
-#include "../vector/QuickSortScheme.hpp"
+#include "vector/detail/QuickSortScheme.hpp"
 
 namespace KornumMatrix::detail {
 

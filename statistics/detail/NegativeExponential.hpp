@@ -2,7 +2,7 @@
 // Internal to the library (not installed).
 #pragma once
 
-#include "../core/KorGammaSupport.h"
+#include "core/detail/ExtendedPrecision.hpp"
 
 #include <kornum/Kornumglobals.h>
 

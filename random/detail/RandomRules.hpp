@@ -26,7 +26,7 @@ inline Int64 Trunc(Float x) noexcept { return Int64(x); }
 
 }  // namespace KornumRandom::detail
 
-// The overload that draws from DelphiRandom, for a generator of the given result type,
+// The overload that draws from DefaultRandom, for a generator of the given result type,
 // name, parameter list and argument list.
-#define KORNUM_FROM_DELPHI_RANDOM(Result, Name, Parameters, Arguments) \
+#define KORNUM_FROM_DEFAULT_RANDOM(Result, Name, Parameters, Arguments) \
     Result Name Parameters { return Name Arguments; }
