@@ -1,5 +1,5 @@
 # Chi-square, Student t, F, beta and exponential distribution functions and their
 # inverses, side by side with Boost.Math's long double distributions.
-kornum_benchmark(kornum_beta_gamma_bench
-  SOURCES ${CMAKE_CURRENT_LIST_DIR}/BetaGammaDistributionsBench.cpp
+kornum_benchmark(kornum_continuous_distributions_bench
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/ContinuousDistributionsBench.cpp
   PEERS Boost)

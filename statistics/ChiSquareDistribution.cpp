@@ -1,4 +1,4 @@
-#include <kornum/GammaDistributions.h>
+#include <kornum/ChiSquareDistribution.h>
 
 #include <kornum/Kornum_RS_Math.h>
 #include <kornum/Kornummath.h>
@@ -145,8 +145,8 @@ Float ChiSquarePDF(Float ChiSq, Integer DF) {
 
 // Halley steps on the smaller tail, from the Wilson-Hilferty approximation.
 Float InvChiSquareLess(Float P, Integer DF) {
-    if (!(P >= 0 && P <= 1)) Platform::Raise(Kornum_RS_Math::rsValue01Inc);
     if (DF < 1) Platform::Raise(Kornum_RS_Math::rsDF);
+    if (!(P >= 0 && P <= 1)) Platform::Raise(Kornum_RS_Math::rsValue01Inc);
     if (P == 0) return 0;
     if (P == 1) return std::numeric_limits<Float>::infinity();
     const Float a = Float(DF) / 2;

@@ -4,7 +4,7 @@ F and beta distributions (both tails, densities and inverses), with mpmath at 20
 Arguments are rounded to 64-bit significands first, so that the table holds the exact
 values at the Floats the tests pass.
 
-Usage: /usr/bin/python3 tools/make_beta_gamma_distribution_references.py > tests/data/distributions_beta_gamma.tsv
+Usage: /usr/bin/python3 tools/make_continuous_distribution_references.py > tests/data/distributions_continuous.tsv
 Columns: kind, then the arguments in the routine's order, then the value.
 """
 import random

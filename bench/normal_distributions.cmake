@@ -1,5 +1,5 @@
 # Normal and log-normal distribution functions, side by side with Boost.Math's
 # long double distributions.
-kornum_benchmark(kornum_distributions_bench
-  SOURCES ${CMAKE_CURRENT_LIST_DIR}/DistributionsBench.cpp
+kornum_benchmark(kornum_normal_distributions_bench
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/NormalDistributionsBench.cpp
   PEERS Boost)

@@ -1,5 +1,5 @@
 // Accuracy of the special functions against the 60-digit tables in tests/data
-// (made by tools/make_gamma_beta_references.py), plus identities that can be checked by hand.
+// (made by tools/make_special_function_references.py), plus identities that can be checked by hand.
 #include <kornum/Kornummath.h>
 
 #include <gtest/gtest.h>
@@ -75,7 +75,7 @@ private:
 
 TEST(SpecialFunctions, GammaMatchesReferenceTable) {
     WorstErrors worst("Gamma");
-    for (const Row& r : ReadTable("gammabeta_gamma.tsv")) {
+    for (const Row& r : ReadTable("special_gamma.tsv")) {
         const Float x = r.values[0], expected = r.values[1];
         const Float error = RelativeError(Kornummath::Gamma(x), expected);
         worst.Add(r.category, error);
@@ -86,7 +86,7 @@ TEST(SpecialFunctions, GammaMatchesReferenceTable) {
 TEST(SpecialFunctions, LnGammaMatchesReferenceTable) {
     WorstErrors relative("LnGamma");
     WorstErrors absolute("LnGamma_absolute");
-    for (const Row& r : ReadTable("gammabeta_lngamma.tsv")) {
+    for (const Row& r : ReadTable("special_lngamma.tsv")) {
         const Float x = r.values[0], expected = r.values[1];
         const Float got = Kornummath::LnGamma(x);
         const Float error = RelativeError(got, expected);
@@ -101,7 +101,7 @@ TEST(SpecialFunctions, LnGammaMatchesReferenceTable) {
 
 TEST(SpecialFunctions, BetaMatchesReferenceTable) {
     WorstErrors worst("Beta");
-    for (const Row& r : ReadTable("gammabeta_beta.tsv")) {
+    for (const Row& r : ReadTable("special_beta.tsv")) {
         const Float a = r.values[0], b = r.values[1], expected = r.values[2];
         const Float error = RelativeError(Kornummath::Beta(a, b), expected);
         worst.Add(r.category, error);
@@ -112,7 +112,7 @@ TEST(SpecialFunctions, BetaMatchesReferenceTable) {
 
 TEST(SpecialFunctions, IncompleteBetaMatchesReferenceTable) {
     WorstErrors worst("IncompleteBeta");
-    for (const Row& r : ReadTable("gammabeta_ibeta.tsv")) {
+    for (const Row& r : ReadTable("special_ibeta.tsv")) {
         const Float x = r.values[0], a = r.values[1], b = r.values[2], expected = r.values[3];
         const Float error = RelativeError(Kornummath::IncompleteBeta(x, a, b), expected);
         worst.Add(r.category, error);
@@ -126,7 +126,7 @@ TEST(SpecialFunctions, IncompleteBetaMatchesReferenceTable) {
 
 TEST(SpecialFunctions, InverseIncompleteBetaMatchesReferenceTable) {
     WorstErrors worst("InverseIncompleteBeta");
-    for (const Row& r : ReadTable("gammabeta_ibeta_inv.tsv")) {
+    for (const Row& r : ReadTable("special_ibeta_inv.tsv")) {
         const Float p = r.values[0], a = r.values[1], b = r.values[2], expected = r.values[3];
         const Float error = RelativeError(Kornummath::InverseIncompleteBeta(p, a, b), expected);
         worst.Add(r.category, error);

@@ -114,7 +114,7 @@ TEST(DiscreteDistributions, InvalidArguments) {
     EXPECT_TRUE(Raises([] { PoissonGreater(1, 1755); }, rsFactOverflow));
 }
 
-TEST(Distributions, AgreeWithHighPrecisionReferences) {
+TEST(NormalAndDiscreteDistributions, AgreeWithHighPrecisionReferences) {
     // Largest relative error of BinomialEq, BinomialLess, PoissonEq, PoissonLess and
     // InvNormalLess (a zero reference must be met exactly), and the largest absolute
     // error of NormalLess.

@@ -1,5 +1,5 @@
 // The incomplete gamma function and the chi-square, Student t, F, beta and exponential
-// distributions against mpmath (tools/make_beta_gamma_distribution_references.py): both
+// distributions against mpmath (tools/make_continuous_distribution_references.py): both
 // tails, the densities and the inverses, at the tolerance 1e-19 and at the default one.
 #include "StatisticsTestSupport.h"
 
@@ -23,7 +23,7 @@ struct Row {
 };
 
 std::vector<Row> References() {
-    std::ifstream in(std::string(KORNUM_TEST_DATA_DIR) + "/distributions_beta_gamma.tsv");
+    std::ifstream in(std::string(KORNUM_TEST_DATA_DIR) + "/distributions_continuous.tsv");
     std::vector<Row> rows;
     for (std::string line; std::getline(in, line);) {
         if (line.empty() || line[0] == '#') continue;
@@ -74,7 +74,7 @@ Float Allowed(const std::string& kind) {
     return 1e-17L;
 }
 
-TEST(BetaGammaDistributions, AgainstMpmathAtTheTightTolerance) {
+TEST(ContinuousDistributions, AgainstMpmathAtTheTightTolerance) {
     const ToleranceScope tight(1e-19L);
     std::map<std::string, Float> worst;
     const std::vector<Row> rows = References();
@@ -91,7 +91,7 @@ TEST(BetaGammaDistributions, AgainstMpmathAtTheTightTolerance) {
     for (const auto& [kind, error] : worst) std::printf("  %-14s worst relative error %.3Lg\n", kind.c_str(), error);
 }
 
-TEST(BetaGammaDistributions, TheDefaultToleranceGivesFourTimesIt) {
+TEST(ContinuousDistributions, TheDefaultToleranceGivesFourTimesIt) {
     Float worst = 0;
     for (const Row& row : References())
         if (row.kind == "igamma" && row.expected > 1e-300L)

@@ -1,0 +1,27 @@
+// What the distribution sources share: argument checks and the density's exponential.
+// Internal to the library (not installed).
+#pragma once
+
+#include <kornum/Kornum_RS_Math.h>
+#include <kornum/Kornumglobals.h>
+#include <kornum/Platform.h>
+
+#include "core/detail/ExtendedPrecision.hpp"
+
+#include <limits>
+
+namespace KornumStatistics::detail {
+
+using Kornumglobals::Float;
+using Kornumglobals::Integer;
+using Kornummath::special::TwoFloat;
+
+inline constexpr Float Infinity = std::numeric_limits<Float>::infinity();
+
+inline void RequireProbability(Float p) { Platform::Require(p >= 0 && p <= 1, Kornum_RS_Math::rsValue01Inc); }
+inline void RequireDegrees(Integer df) { Platform::Require(df >= 1, Kornum_RS_Math::rsDF); }
+
+// exp(E) / divisor with E a TwoFloat: one exponential at the end.
+inline Float ExpOver(TwoFloat e, Float divisor) { return Kornummath::special::Exp(e) / divisor; }
+
+}  // namespace KornumStatistics::detail
