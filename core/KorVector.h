@@ -1,9 +1,11 @@
-// The reference-counted dynamic array behind every vector and matrix type.
-//
-// A TKorVector is a handle. The empty vector is the null handle. Copying a handle
-// shares the storage (the count is atomic), and a write through any sharer is seen
-// by all. SetLength gives a shared vector a private copy first, keeps the elements up
-// to the new length and zero-fills new ones; SetLength(0) releases the storage.
+/// @file
+/// The reference-counted dynamic array behind every vector and matrix type,
+/// `Kornumglobals::TKorVector`. Included by `<kornum/Kornumglobals.h>`.
+///
+/// A TKorVector is a handle. The empty vector is the null handle. Copying a handle
+/// shares the storage (the count is atomic), and a write through any sharer is seen
+/// by all. SetLength gives a shared vector a private copy first, keeps the elements up
+/// to the new length and zero-fills new ones; SetLength(0) releases the storage.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -19,12 +21,24 @@
 
 namespace KORNUM_API Kornumglobals {
 
-// The storage of every vector. Large blocks are placed on huge-page boundaries and
-// marked for huge pages, so that filling a vector of millions of elements takes a few
-// page faults instead of one per 4 KiB (each fault costs microseconds).
+/// Allocates the storage of a vector: `bytes` bytes aligned to `alignment`. Blocks of
+/// 4 MiB and more are placed on huge-page boundaries and marked for huge pages, so that
+/// filling a vector of millions of elements takes a few page faults instead of one per
+/// 4 KiB (each fault costs microseconds). Raises `std::bad_alloc` when memory runs out.
 void* AllocateVectorStorage(std::size_t bytes, std::size_t alignment);
+/// Frees storage from `AllocateVectorStorage`, given the same `bytes` and `alignment`.
 void FreeVectorStorage(void* storage, std::size_t bytes, std::size_t alignment) noexcept;
 
+/// A reference-counted dynamic array of `T`: the vector type of every element type, and
+/// (with vectors as elements) the matrix type. A handle with shared storage:
+///
+/// - the empty vector is the null handle (`Length()` 0, `High()` -1);
+/// - copying a handle shares the storage, counted atomically, so handles may be copied
+///   and destroyed from several threads; a write through any sharer is seen by all;
+/// - `SetLength` gives a shared vector a private copy first, keeps the elements up to
+///   the new length and zero-fills new ones; `SetLength(0)` releases the storage.
+///
+/// Elements are contiguous; `operator[]` does not check the index.
 template <class T>
 class TKorVector {
     // Storage: this header, then the elements at DataOffset.
@@ -40,17 +54,24 @@ class TKorVector {
     static constexpr bool Trivial = std::is_trivially_copyable_v<T>;
 
 public:
+    /// The element type.
     using value_type = T;
+    /// The type of lengths and indices.
     using size_type = std::int32_t;
 
+    /// The empty vector.
     TKorVector() noexcept = default;
+    /// A new vector holding `values`, in order; the empty vector for an empty list.
     TKorVector(std::initializer_list<T> values) {
         if (values.size() == 0) return;
         block_ = Allocate(static_cast<std::int32_t>(values.size()));
         CopyConstruct(Data(block_), values.begin(), block_->length);
     }
+    /// A handle sharing the storage of `other`.
     TKorVector(const TKorVector& other) noexcept : block_(other.block_) { Retain(); }
+    /// Takes over the storage of `other`, which becomes empty.
     TKorVector(TKorVector&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
+    /// Shares the storage of `other`, releasing this handle's own.
     TKorVector& operator=(const TKorVector& other) noexcept {
         if (block_ != other.block_) {
             other.Retain();
@@ -59,6 +80,7 @@ public:
         }
         return *this;
     }
+    /// Takes over the storage of `other`, which becomes empty, releasing this handle's own.
     TKorVector& operator=(TKorVector&& other) noexcept {
         if (this != &other) {
             Release();
@@ -66,25 +88,38 @@ public:
         }
         return *this;
     }
+    /// Releases the handle; the last sharer frees the storage.
     ~TKorVector() { Release(); }
 
+    /// The number of elements; 0 when empty.
     std::int32_t Length() const noexcept { return block_ ? block_->length : 0; }
+    /// The last index, Length() - 1; -1 when empty.
     std::int32_t High() const noexcept { return Length() - 1; }
+    /// True for the empty vector.
     bool IsEmpty() const noexcept { return block_ == nullptr; }
 
-    // A const handle protects the handle, not the elements: writes go to the
-    // storage that every sharer sees.
+    /// The element at `index` (0 to High(), not checked). A const handle protects the
+    /// handle, not the elements: writes go to the storage that every sharer sees.
     T& operator[](std::int32_t index) const noexcept { return Data(block_)[index]; }
+    /// The first element; nullptr when empty.
     T* data() const noexcept { return block_ ? Data(block_) : nullptr; }
+    /// The first element, for range-for and the standard algorithms.
     T* begin() const noexcept { return data(); }
+    /// Just past the last element.
     T* end() const noexcept { return data() + Length(); }
 
-    // True when both handles refer to the same storage (or are both empty).
+    /// True when both handles refer to the same storage (or are both empty).
     bool SharesWith(const TKorVector& other) const noexcept { return block_ == other.block_; }
+    /// The number of handles sharing the storage; 0 when empty.
     std::int64_t RefCount() const noexcept {
         return block_ ? block_->refs.load(std::memory_order_relaxed) : 0;
     }
 
+    /// Sets the number of elements. A shared vector first gets a private copy (the other
+    /// sharers keep the old storage); elements up to the new length are kept and new ones
+    /// are zero (all-zero bytes for numbers, empty rows for a matrix). A length of 0 or
+    /// less releases the storage and leaves the vector empty. Raises `std::bad_alloc`
+    /// when memory runs out, the vector unchanged.
     void SetLength(std::int32_t length) {
         if (length <= 0) {
             Release();

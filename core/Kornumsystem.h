@@ -1,4 +1,6 @@
-// Small utilities: exchanging two variables and clearing raw memory.
+/// @file
+/// Small utilities: exchanging two variables (`Kornumsystem::SwapXY`) and clearing raw
+/// memory (`Kornumsystem::KorClear`).
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -6,13 +8,24 @@
 
 #include <utility>
 
+/// The system module: exchanging two variables of an element type and clearing raw
+/// memory.
 namespace KORNUM_API Kornumsystem {
 
 using namespace Kornumglobals;
 
-// Exchanges two variables; one overload per element type. Inline because the sorts
-// call them in their inner loops. The PackedFloat overload exchanges the stored
-// 10 bytes of two TKorFloatVector elements.
+/// @name SwapXY
+/// @{
+
+/// Exchanges two variables; one overload per element type. Inline because the sorts
+/// call them in their inner loops. The PackedFloat overload exchanges the stored
+/// 10 bytes of two TKorFloatVector elements. (The currency overloads are
+/// `Kornumfinancials::SwapXY`.)
+///
+/// | X, Y |
+/// |---|
+/// | Byte, ShortInt, Word, SmallInt, Cardinal, Integer, Int64 |
+/// | Single, Double, Float, PackedFloat |
 inline void SwapXY(Byte& X, Byte& Y) noexcept { std::swap(X, Y); }
 inline void SwapXY(ShortInt& X, ShortInt& Y) noexcept { std::swap(X, Y); }
 inline void SwapXY(Word& X, Word& Y) noexcept { std::swap(X, Y); }
@@ -24,8 +37,9 @@ inline void SwapXY(Single& X, Single& Y) noexcept { std::swap(X, Y); }
 inline void SwapXY(Double& X, Double& Y) noexcept { std::swap(X, Y); }
 inline void SwapXY(Float& X, Float& Y) noexcept { std::swap(X, Y); }
 inline void SwapXY(PackedFloat& X, PackedFloat& Y) noexcept { std::swap(X, Y); }
+/// @}
 
-// Sets Size bytes at P to zero.
+/// Sets Size bytes at P to zero; nothing for a Size of 0 (P may then be null).
 void KorClear(void* P, Cardinal Size);
 
 }  // namespace Kornumsystem

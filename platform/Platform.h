@@ -1,22 +1,30 @@
-// The slice of platform services that the library relies on: exceptions carrying a
-// message, replaceable message texts and the one way to raise a failure.
+/// @file
+/// The platform module's main header: exceptions carrying a message, replaceable message
+/// texts and the one way the library raises a failure (`Platform::Raise`,
+/// `Platform::Require`).
 #pragma once
 
 #include <kornum/KornumExport.h>
 #include <kornum/PlatformExceptions.h>
 #include <kornum/PlatformResources.h>
 
+/// The platform module: the services the library needs beyond the C++ standard library.
+/// Exception classes carrying one message text, message identifiers whose texts an
+/// application can replace, the global uniform generator, persistent objects and string
+/// lists, components with a published-property table and a text form, and a
+/// toolkit-neutral drawing slice (rectangles, colours, fonts, an abstract canvas).
 namespace KORNUM_API Platform {
 
-// Raises a failure: looks up the text of the identifier in the table in force at this
-// moment and throws E (EMathError unless the routine is documented to raise another
-// class) with exactly that text.
+/// Raises a failure: looks up the text of `resource` in the table in force at this moment
+/// (`ResourceString::Text`) and throws `E` carrying exactly that text. `E` is
+/// `Platform::EMathError` unless a routine is documented to raise another class.
 template <class E = EMathError>
 [[noreturn]] void Raise(const ResourceString& resource) {
     throw E(resource.Text());
 }
 
-// Raises the failure unless the condition holds: the check every routine begins with.
+/// Raises `resource` as a `Platform::EMathError` (see `Raise`) unless `Holds` is true: the
+/// argument check every routine begins with.
 inline void Require(bool Holds, const ResourceString& resource) {
     if (!Holds) Raise(resource);
 }

@@ -1,5 +1,6 @@
-// The exception classes of the library. Every failure carries exactly one message
-// text and nothing else.
+/// @file
+/// The exception classes of the library. Every failure carries exactly one message text
+/// and nothing else; `Platform::Exception` is the root, derived from `std::exception`.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -8,32 +9,43 @@
 
 namespace KORNUM_API Platform {
 
-// Root class: a message text, returned unchanged by what() and Message().
+/// The root class of the library's exceptions: one message text, returned unchanged by
+/// `what()` and `Message()`.
 class Exception : public std::exception {
 public:
+    /// An exception carrying `message`.
     explicit Exception(std::string message) : message_(std::move(message)) {}
+    /// The message text, as a C string.
     const char* what() const noexcept override { return message_.c_str(); }
+    /// The message text.
     const std::string& Message() const noexcept { return message_; }
 
 private:
     std::string message_;
 };
 
-// Raised by the numeric routines for bad arguments.
+/// Raised by the numeric routines for bad arguments. The message is the text of a message
+/// identifier (`Kornum_RS_Math::rsVectorIsEmpty`, ...) in the table in force when raised.
 class EMathError : public Exception {
 public:
+    /// An exception carrying `message`.
     using Exception::Exception;
 };
 
-// Raised for text that is not a number; the message quotes the text.
+/// Raised for text that cannot be converted (not a number, a colour or a font). Also
+/// raised for an object that cannot be assigned from another; the message quotes the
+/// text or names the classes.
 class EConvertError : public Exception {
 public:
+    /// An exception carrying `message`.
     using Exception::Exception;
 };
 
-// Raised when a value does not fit the type it is converted to.
+/// Raised when a value does not fit the type it is converted to; the message names the
+/// value and the target type.
 class ERangeError : public Exception {
 public:
+    /// An exception carrying `message`.
     using Exception::Exception;
 };
 

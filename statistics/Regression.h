@@ -1,5 +1,8 @@
-// Least-squares straight line Y = Intercept + Slope * X through paired samples, and the
-// sum of squared errors of a given line. Element i of X pairs with element i of Y.
+/// @file
+/// The least-squares straight line Y = Intercept + Slope * X through paired samples,
+/// and the sum of squared errors of a given line. Element i of `X` pairs with element i
+/// of `Y`. Failures raise Platform::EMathError with the text of a Kornum_RS_Math
+/// identifier, before anything is written.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -10,15 +13,20 @@ namespace KORNUM_API KornumStatistics {
 using Kornumglobals::Float;
 using Kornumglobals::TKorFloatVector;
 
-// Fits the line from the plain sums (no centring first): Slope = Qxy / Qxx with
-// Qxx = Sxx - Sx*Sx/n and Qxy = Sxy - Sx*Sy/n, then Intercept = (Sy - Slope*Sx) / n.
-// Slope is written first. Vectors of different lengths raise rsSameDimensions and
-// write nothing; nothing else is checked, so empty vectors or a constant X give
-// infinity or NaN.
+/// Fits the least-squares line Y = Intercept + Slope * X. The fit works from the plain
+/// sums Sx, Sy, Sxx (of the squares of X) and Sxy (of the products), with no centring
+/// first: Slope = Qxy / Qxx with Qxx = Sxx - Sx*Sx/n and Qxy = Sxy - Sx*Sy/n, then
+/// Intercept = (Sy - Slope*Sx) / n. The differences cancel when the X values are large
+/// beside their spread. `Slope` is written first, then `Intercept`. Failures: vectors
+/// of different lengths raise Platform::EMathError (Kornum_RS_Math::rsSameDimensions)
+/// and write nothing. Nothing else is checked: empty vectors give NaN for both, and a
+/// constant `X` an infinite or NaN slope.
 void GetRegressionLine(const TKorFloatVector& X, const TKorFloatVector& Y, Float& Intercept,
                        Float& Slope);
 
-// The sum of (Slope * X[i] + Intercept - Y[i]) squared; 0 for empty vectors.
+/// The sum of squared errors of the line Y = Intercept + Slope * X: the sum of
+/// (Slope * X[i] + Intercept - Y[i])^2; 0 for empty vectors. Failures: vectors of
+/// different lengths raise Platform::EMathError (Kornum_RS_Math::rsSameDimensions).
 Float GetSSE(const TKorFloatVector& X, const TKorFloatVector& Y, Float Intercept, Float Slope);
 
 }  // namespace KornumStatistics
