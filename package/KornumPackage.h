@@ -1,12 +1,15 @@
-// The runtime package as a whole: its identity and version.
+/// @file
+/// The runtime package as a whole: its identity and version.
 #pragma once
 
 #include <kornum/KornumExport.h>
 #include <string>
 
+/// The package module: what identifies the runtime package kornum_stats_rt as a whole.
 namespace KORNUM_API KornumPackage {
 
-// "MAJOR.MINOR.PATCH" of the installed runtime package.
+/// The version of the runtime package, "MAJOR.MINOR.PATCH" (the project version the library
+/// was built with, for example "0.1.0"); `KornumDescStats::TKorDescStats::Version` shows it.
 std::string Version();
 
 }  // namespace KornumPackage

@@ -1,4 +1,8 @@
-// Every module of the library.
+/// @file
+/// Every module of the library in one include: the platform slice, the base modules, the
+/// controls' base classes and the runtime package's modules (vectors, statistics, matrices,
+/// random variates, the descriptive-statistics component, the math label). The Cairo
+/// canvas (`<kornum/KornumCanvas.h>`, library kornum_canvas) is not included.
 #pragma once
 
 #include <kornum/Platform.h>

@@ -1,92 +1,228 @@
-// Random variates of standard distributions, every one drawn from a pluggable uniform
-// source: a TKorUniformFunc returning a Float on [0, 1).
-//
-// Each generator has two overloads: with the source as its last argument, and without,
-// drawing from DefaultRandom (the platform's global generator, which
-// Platform::RandSeed seeds). A generator that uses another hands its source on, so one
-// call draws from one source only. The module keeps no state: every call repeats its
-// whole set-up. Argument checks raise Platform::EMathError before the first uniform is
-// drawn; rejection loops have no bound, so a source that keeps yielding rejected values
-// makes them loop for ever.
+/// @file
+/// Random variates of standard distributions, every one drawn from a pluggable uniform
+/// source: a `TKorUniformFunc` returning a Float on [0, 1).
+///
+/// Each generator has two overloads: with the source as its last argument, and without,
+/// drawing from `KornumRandom::DefaultRandom` (the platform's global generator, which
+/// `Platform::RandSeed` seeds). A generator that uses another hands its source on, so one
+/// call draws from one source only. The module keeps no state: every call repeats its whole
+/// set-up. Argument checks raise `Platform::EMathError` before the first uniform is drawn;
+/// rejection loops have no bound, so a source that keeps yielding rejected values makes
+/// them loop for ever.
 #pragma once
 
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
+/// The random-variates module: fourteen generators (normal, exponential, gamma, chi-square,
+/// Weibull, beta, Student t, generalised inverse Gaussian, von Mises, Cauchy, binomial by
+/// two methods, negative binomial, Poisson, multivariate normal) over a pluggable uniform
+/// source. Every generator is a member group of two overloads: one drawing every uniform
+/// from the `TKorUniformFunc` given as its last argument, and one without it that is
+/// exactly that call with `DefaultRandom`. The module keeps no state, so the generators are
+/// safe on several threads when their source is (`DefaultRandom` is not). Failures raise
+/// `Platform::EMathError` with a message identifier of `Kornum_RS_Math`, before the first
+/// uniform is drawn unless a generator says otherwise.
 namespace KORNUM_API KornumRandom {
 
 using namespace Kornumglobals;
 
-// The guard below which a uniform counts as zero: the smallest positive double.
+/// The guard below which a uniform counts as zero: 5.0E-324, the smallest positive double,
+/// held as a Float (far above the smallest positive Float). Logarithms and divisions of the
+/// generators are guarded by it.
 inline constexpr Float KorVSmall = 5.0E-324L;
 
-// The next value of the platform's global uniform generator.
+/// The default uniform source: the next value of the platform's global generator
+/// (`Platform::Random`), a Float on [0, 1). The overloads without a source pass this
+/// function. The module never seeds the generator: an application calls
+/// `Platform::RandSeed` (one seed gives one stream everywhere) or `Platform::Randomize`.
+/// The global state is not protected: from several threads at once, pass each thread a
+/// source of its own instead.
 Float DefaultRandom();
 
-// ---- Normal and exponential ---------------------------------------------------------------
-// Normal: Leva's ratio of uniforms (two uniforms a trial); rsDivideByZero if the
-// accepted u is below KorVSmall. Exponential: -ln of a uniform above KorVSmall.
+/// @name Random_Normal
+/// @{
+
+/// A standard normal variate (mean 0, variance 1). Leva's ratio of uniforms with quadratic
+/// bounds: two uniforms a trial, u then v, the logarithm taken only when a point falls
+/// between the two bounds. Failures: an accepted u below `KorVSmall` raises
+/// `Platform::EMathError` (`Kornum_RS_Math::rsDivideByZero`); a source that never returns a
+/// value below 5E-324 never raises it.
 Float Random_Normal(TKorUniformFunc RandomGen);
 Float Random_Normal();
+/// @}
+
+/// @name Random_Exponential
+/// @{
+
+/// A standard exponential variate (mean 1) on (0, +inf). It is -ln r of the first uniform r
+/// above `KorVSmall`, smaller uniforms being drawn again. Raises nothing.
 Float Random_Exponential(TKorUniformFunc RandomGen);
 Float Random_Exponential();
+/// @}
 
-// ---- Continuous -----------------------------------------------------------------------------
-// Gamma with shape s (s <= 0: rsInvalidShape): Marsaglia and Tsang for s > 1, a
-// switching method for s < 1 (s below KorVSmall: rsShapeTooSmall), and the exponential
-// for s = 1 exactly.
+/// @name Random_Gamma
+/// @{
+
+/// A gamma variate of shape s, density proportional to x^(s-1) e^(-x). Marsaglia and
+/// Tsang's squeeze method for s > 1, a switching method (a power density left of 1 - s, an
+/// exponential tail right of it) for s < 1, and exactly `Random_Exponential` from the same
+/// source for s = 1. The small-shape method returns 0 for the rare draws whose value would
+/// lie below `KorVSmall`. Failures, in order: s <= 0 raises `Platform::EMathError`
+/// (`Kornum_RS_Math::rsInvalidShape`); 0 < s below `KorVSmall` raises
+/// `Platform::EMathError` (`Kornum_RS_Math::rsShapeTooSmall`).
 Float Random_Gamma(Float s, TKorUniformFunc RandomGen);
 Float Random_Gamma(Float s);
-// Chi-square with ndf degrees of freedom: twice a gamma of shape ndf / 2.
+/// @}
+
+/// @name Random_ChiSq
+/// @{
+
+/// A chi-square variate with ndf degrees of freedom. It is twice `Random_Gamma` of shape
+/// ndf / 2 (so ndf = 2 is twice an exponential). Failures: ndf <= 0 raises
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidShape`) from `Random_Gamma`.
 Float Random_ChiSq(Integer ndf, TKorUniformFunc RandomGen);
 Float Random_ChiSq(Integer ndf);
-// Weibull: an exponential to the power 1 / a; |a| <= KorVSmall is rsInvalidValue (a
-// negative a is accepted).
+/// @}
+
+/// @name Random_Weibull
+/// @{
+
+/// A Weibull variate of shape a. It is a `Random_Exponential` variate E raised to the power
+/// 1 / a. Only the magnitude of a is tested, so a negative a is accepted and gives E^(1/a)
+/// with a negative exponent. Failures: |a| <= `KorVSmall` raises `Platform::EMathError`
+/// (`Kornum_RS_Math::rsInvalidValue`).
 Float Random_Weibull(Float a, TKorUniformFunc RandomGen);
 Float Random_Weibull(Float a);
-// Beta(aa, bb) on [0, 1] by Cheng's log-logistic method; aa or bb <= 0: rsInvalidValue.
+/// @}
+
+/// @name Random_Beta
+/// @{
+
+/// A beta(aa, bb) variate on [0, 1]. Cheng's log-logistic method (its algorithms BB for
+/// both parameters above 1 and BC otherwise), computed with the larger parameter first and
+/// mirrored (1 - x) when the two were exchanged: Random_Beta(a, b) and Random_Beta(b, a)
+/// give complementary values for the same uniforms. Failures: aa <= 0 or bb <= 0 raises
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`).
 Float Random_Beta(Float aa, Float bb, TKorUniformFunc RandomGen);
 Float Random_Beta(Float aa, Float bb);
-// Student t with m >= 1 degrees of freedom (else rsInvalidValue), by Kinderman and
-// Monahan's ratio method.
+/// @}
+
+/// @name Random_T
+/// @{
+
+/// A Student t variate with m degrees of freedom. Kinderman and Monahan's ratio method,
+/// with its bound g = ((m + 1) / (m - 1))^(-(m + 1) / 4) sqrt(2m / (m - 1)) for m > 1 (g =
+/// 1 for m = 1) and its outer squeeze used only from m = 3 on, so that the variates follow
+/// Student's distribution for every m. Failures: m < 1 raises `Platform::EMathError`
+/// (`Kornum_RS_Math::rsInvalidValue`).
 Float Random_T(Integer m, TKorUniformFunc RandomGen);
 Float Random_T(Integer m);
-// Generalised inverse Gaussian, density proportional to x^(h-1) exp(-b (x + 1/x) / 2),
-// by a ratio method; h < 0, b <= 0 and parameters out of the method's range raise
-// rsInvalidValue.
+/// @}
+
+/// @name Random_Inv_Gauss
+/// @{
+
+/// A generalised inverse Gaussian variate, density proportional to x^(h-1) exp(-b (x + 1/x)
+/// / 2). A ratio-of-uniforms method around the mode. Failures, in order, each raising
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`): h < 0; b <= 0; h > b
+/// sqrt(1.7E308) / 4 (b too small for h); a set-up bound below `KorVSmall` because b is too
+/// small; the method's scale below `KorVSmall` because h is too large.
 Float Random_Inv_Gauss(Float h, Float b, TKorUniformFunc RandomGen);
 Float Random_Inv_Gauss(Float h, Float b);
-// Von Mises angle on [-pi, pi] with concentration 0 <= k < 10 (else rsInvalidValue), by
-// Dagpunar's comparison of random numbers.
+/// @}
+
+/// @name Random_von_Mises
+/// @{
+
+/// A von Mises angle on [-pi, pi] with mean 0 and concentration k. Dagpunar's comparison of
+/// random numbers: for k > 0.5 the half circle is cut into trunc(2k + 1) pieces weighted by
+/// six-point Gauss-Legendre integrals of exp(k cos x); for k <= 0.5 it is one piece.
+/// Failures, in order: k < 0, then trunc(2k + 1) > 20 (k >= 10), each raising
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`).
 Float Random_von_Mises(Float k, TKorUniformFunc RandomGen);
 Float Random_von_Mises(Float k);
-// Standard Cauchy: the ratio of a point uniform in the unit disc.
+/// @}
+
+/// @name Random_Cauchy
+/// @{
+
+/// A standard Cauchy variate. It is a / b for a point (a, b) uniform in the unit disc,
+/// points with |b| below `KorVSmall` being drawn again. Raises nothing.
 Float Random_Cauchy(TKorUniformFunc RandomGen);
 Float Random_Cauchy();
+/// @}
 
-// ---- Discrete and multivariate ------------------------------------------------------------------
-// Binomial with n trials and success probability p: modal inversion (Binomial1), or
-// BTPE above a mean of 30 and inversion below (Binomial2). No argument is checked.
+/// @name Random_Binomial1
+/// @{
+
+/// A binomial variate: successes in n trials of success probability p. Kemp's modal
+/// inversion: from the mode trunc((n + 1) p), one step down then one step up, in turn; a
+/// walk that leaves 0 .. n on both sides (rounding) starts again from a fresh uniform.
+/// Cheap to set up, with a cost that grows with the spread. No argument is checked: n must
+/// be at least 0 and p strictly between 0 and 1 (with p = 0 or 1 the probabilities are NaN
+/// and the call never returns).
 Int64 Random_Binomial1(Integer n, Float p, TKorUniformFunc RandomGen);
 Int64 Random_Binomial1(Integer n, Float p);
+/// @}
+
+/// @name Random_Binomial2
+/// @{
+
+/// A binomial variate: successes in n trials of success probability pp. The BTPE method of
+/// Kachitvichyanukul and Schmeiser when n min(pp, 1 - pp) > 30, inversion otherwise
+/// (restarted with a fresh uniform past 110 successes). It works with p = min(pp, 1 - pp)
+/// and returns n minus the variate when pp > 0.5. No argument is checked.
 Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen);
 Int64 Random_Binomial2(Int64 n, Float pp);
-// Negative binomial: failures before the sk-th success, success probability p;
-// sk <= 0, p outside (0, 1), or p too large for sk: rsInvalidValue.
+/// @}
+
+/// @name Random_Neg_Binomial
+/// @{
+
+/// A negative binomial variate: failures before the sk-th success, success probability p
+/// (sk need not be whole). Unstored inversion; for p > 0.7 the whole part of sk is drawn as
+/// a sum of geometric variates first. Failures, each raising `Platform::EMathError`
+/// (`Kornum_RS_Math::rsInvalidValue`): sk <= 0, p <= 0 or p >= 1; then (1 - p)^s' below
+/// `KorVSmall` for the remaining power s' (sk itself when p <= 0.7), that is sk too large
+/// for this p (for p = 0.5, sk above about 1074); this second check comes after the
+/// geometric draws, but can only fire when p <= 0.7, where there are none.
 Int64 Random_Neg_Binomial(Float sk, Float p, TKorUniformFunc RandomGen);
 Int64 Random_Neg_Binomial(Float sk, Float p);
-// Poisson with mean mu: Ahrens and Dieter's method PD above 10, table inversion below.
-// mu is read only. No argument is checked.
+/// @}
+
+/// @name Random_Poisson
+/// @{
+
+/// A Poisson variate of mean mu. Ahrens and Dieter's method PD (a normal sample with
+/// squeeze and exponential rejection) for mu > 10, inversion through a cumulative table of
+/// 35 entries, built as far as each draw needs, otherwise. mu is read only. No argument is
+/// checked: a mean of 0 or below returns 0, and a NaN mean never returns.
 Int64 Random_Poisson(const Float& mu, TKorUniformFunc RandomGen);
 Int64 Random_Poisson(const Float& mu);
-// A normal vector with means H and covariance D (the upper triangle, packed column by
-// column: element (i, j), i <= j, 1-based, at position j (j - 1) / 2 + i). F receives the
-// lower Cholesky factor packed column by column, X the variate. A covariance that is
-// not positive semi-definite sets Ier = 1 and leaves X as it was; otherwise Ier = 0.
-// An empty H is rsVectorEmpty, a D too short rsVectorTooSmall.
+/// @}
+
+/// @name Random_MVNorm
+/// @{
+
+/// A multivariate normal vector X with the means H and the covariance matrix D. It is
+/// formed with the Cholesky factor of D. D holds the upper triangle packed column by
+/// column: element (i, j), i <= j, counted from 1, at position j (j - 1) / 2 + i (a D
+/// longer than n (n + 1) / 2 is accepted, the rest ignored). F is resized to n (n + 1) / 2
+/// and receives the lower factor packed column by column: element (i, j), j <= i, at
+/// position (j - 1) (2n - j) / 2 + i. X then receives n elements: H plus the factor times n
+/// `Random_Normal` variates. The factor is recomputed at every call.
+///
+/// Failures, in order: an empty H raises `Platform::EMathError`
+/// (`Kornum_RS_Math::rsVectorEmpty`); a D shorter than n (n + 1) / 2 raises
+/// `Platform::EMathError` (`Kornum_RS_Math::rsVectorTooSmall`); both before anything is
+/// written. A covariance that is not positive semi-definite is not an exception: Ier
+/// becomes 1, X is left as it was, no uniform is drawn, and F holds the partial factor.
+/// Otherwise Ier is 0.
 void Random_MVNorm(const TKorFloatVector& H, const TKorFloatVector& D, TKorFloatVector& F, TKorFloatVector& X,
                    Integer& Ier, TKorUniformFunc RandomGen);
 void Random_MVNorm(const TKorFloatVector& H, const TKorFloatVector& D, TKorFloatVector& F, TKorFloatVector& X,
                    Integer& Ier);
+/// @}
 
 }  // namespace KornumRandom

@@ -1,5 +1,11 @@
-// The beta distribution on [Lo, Hi]: both tails computed directly, the density and the
-// inverse.
+/// @file
+/// The beta distribution on [Lo, Hi]: both tails, the density and the inverse.
+///
+/// The point is mapped to z = (X - Lo) / (Hi - Lo) and w = (Hi - X) / (Hi - Lo), each
+/// formed from an exact difference and carried in two Floats. Each tail is its own
+/// regularised incomplete beta function (`BetaDistLess` of z, `BetaDistGreater` of w,
+/// neither 1 minus the other), so small tails on both sides keep their relative precision.
+/// Lo and Hi default to the standard interval [0, 1].
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -10,13 +16,35 @@ namespace KORNUM_API KornumStatistics {
 using Kornumglobals::Float;
 
 // ---- Beta with shapes A, B on [Lo, Hi] --------------------------------------------------------
-// A or B <= 0: rsValueGZero; Lo = Hi: rsSameValue. Below Lo the distribution function is
-// 0, above Hi 1.
+
+/// @name Beta
+/// The beta distribution with shapes `A` and `B`, scaled to run from `Lo` to `Hi`. Every
+/// routine first raises Platform::EMathError with Kornum_RS_Math::rsValueGZero unless
+/// A > 0 and B > 0 (a NaN included), then Kornum_RS_Math::rsSameValue when Lo = Hi
+/// (compared exactly). Hi < Lo is accepted and mirrors the distribution: z then runs from
+/// Lo down to Hi, `BetaDistLess` falls as X rises, and `BetaPDF` comes out negative.
+/// @{
+
+/// P(X' < `X`) = `IncompleteBeta(z, A, B)` with z = (X - Lo) / (Hi - Lo): 0 at and below
+/// Lo, 1 at and above Hi. Failures (Platform::EMathError): Kornum_RS_Math::rsValueGZero
+/// unless A, B > 0, then Kornum_RS_Math::rsSameValue for Lo = Hi.
 Float BetaDistLess(Float X, Float A, Float B, Float Lo = 0, Float Hi = 1);
+/// P(X' > `X`) = `IncompleteBeta(w, B, A)` with w = (Hi - X) / (Hi - Lo), computed directly
+/// (not as 1 - `BetaDistLess`): 1 at and below Lo, 0 at and above Hi. Failures as for
+/// `BetaDistLess`.
 Float BetaDistGreater(Float X, Float A, Float B, Float Lo = 0, Float Hi = 1);
+/// The density `z^(A-1) (1-z)^(B-1) / (Beta(A, B) (Hi - Lo))` with z = (X - Lo) / (Hi - Lo);
+/// 0 outside [Lo, Hi]. At Lo it is infinity for A < 1, B / (Hi - Lo) for A = 1 and 0 for
+/// A > 1; at Hi likewise with the roles of A and B exchanged. Failures as for
+/// `BetaDistLess`.
 Float BetaPDF(Float X, Float A, Float B, Float Lo = 0, Float Hi = 1);
-// Then P outside [0, 1]: rsValue01Inc. Lo at P = 0, Hi at P = 1, else
-// Lo + (Hi - Lo) InverseIncompleteBeta(P, A, B).
+/// The quantile `Lo + (Hi - Lo) * InverseIncompleteBeta(P, A, B)`: Lo at P = 0 and
+/// Lo + (Hi - Lo) at P = 1.
+///
+/// Failures (Platform::EMathError), in this order: Kornum_RS_Math::rsValueGZero and
+/// Kornum_RS_Math::rsSameValue as for `BetaDistLess`, then P outside [0, 1] (a NaN P
+/// included) raises Kornum_RS_Math::rsValue01Inc.
 Float InvBetaDistLess(Float P, Float A, Float B, Float Lo = 0, Float Hi = 1);
+/// @}
 
 }  // namespace KornumStatistics

@@ -1,16 +1,15 @@
-// The incomplete gamma function and the chi-square distribution.
-//
-// IncompleteGamma(A, X) is the regularised lower incomplete gamma P(A, X), and
-// IncompleteGamma2 the unregularised Gamma(A) P(A, X); A <= 0 raises rsValueGZero, then
-// X < 0 rsValueGEZero. Both sum a series (X < A + 1) or a continued fraction (beyond,
-// for the upper tail) until a step changes the result by less than KorTolerance of it:
-// the result is as accurate as the tolerance in force allows. The factor
-// X^A e^-X / Gamma(A) is formed from its logarithm carried in about 128 bits, so that
-// large arguments lose nothing to cancellation.
-//
-// The chi-square routines with DF degrees of freedom: ChiSq < 0 raises rsValueGEZero,
-// DF < 1 rsDF, and for the inverse a P outside [0, 1] rsValue01Inc. Less and Greater
-// are each computed directly (no 1 - x), so small upper tails keep their digits.
+/// @file
+/// The incomplete gamma function and the chi-square distribution.
+///
+/// Both rest on one evaluation of the regularised incomplete gamma: a series for the lower
+/// tail where X < A + 1, a continued fraction (modified Lentz) for the upper tail beyond.
+/// Each is summed until a step changes the result by less than `KorTolerance` of it, so
+/// the result is as accurate as the tolerance in force allows: about 15 significant digits
+/// at the default 1e-15. The factor X^A e^-X / Gamma(A) is formed from its logarithm
+/// carried in two Floats, so that large arguments lose nothing to cancellation. The lower
+/// tail is computed directly below X = A + 1 and the upper one from there on, the other
+/// tail being 1 minus it; as the split lies just above the median, a small tail on either
+/// side keeps its relative precision.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -21,13 +20,52 @@ namespace KORNUM_API KornumStatistics {
 using Kornumglobals::Float;
 using Kornumglobals::Integer;
 
-Float IncompleteGamma(Float A, Float X);
-Float IncompleteGamma2(Float A, Float X);
+// ---- Incomplete gamma ---------------------------------------------------------------------
 
+/// @name Incomplete gamma
+/// Both raise Platform::EMathError with Kornum_RS_Math::rsValueGZero unless A > 0 (a NaN A
+/// included), then Kornum_RS_Math::rsValueGEZero when X < 0.
+/// @{
+
+/// The regularised lower incomplete gamma function P(A, X): the integral of
+/// t^(A-1) e^-t from 0 to X, divided by Gamma(A). 0 at X = 0, 1 at X = infinity.
+/// Failures (Platform::EMathError): Kornum_RS_Math::rsValueGZero unless A > 0, then
+/// Kornum_RS_Math::rsValueGEZero for X < 0.
+Float IncompleteGamma(Float A, Float X);
+/// The unregularised lower incomplete gamma function: `Kornummath::Gamma(A) *
+/// IncompleteGamma(A, X)`; Gamma(A) at X = infinity. Failures as for `IncompleteGamma`.
+Float IncompleteGamma2(Float A, Float X);
+/// @}
+
+// ---- Chi-square ---------------------------------------------------------------------------
+
+/// @name Chi-square
+/// The chi-square distribution with `DF` degrees of freedom, through the incomplete gamma
+/// with A = DF / 2 and X = ChiSq / 2. The forward routines raise Platform::EMathError with
+/// Kornum_RS_Math::rsValueGEZero when ChiSq < 0, then Kornum_RS_Math::rsDF when DF < 1.
+/// @{
+
+/// P(X < `ChiSq`) = `IncompleteGamma(DF / 2, ChiSq / 2)`: 0 at ChiSq = 0, 1 at infinity.
+/// Computed directly for ChiSq < DF + 2 and as 1 minus the upper tail from there on, so
+/// a small lower tail keeps its relative precision. Failures (Platform::EMathError):
+/// Kornum_RS_Math::rsValueGEZero for ChiSq < 0, then Kornum_RS_Math::rsDF for DF < 1.
 Float ChiSquareLess(Float ChiSq, Integer DF);
+/// P(X > `ChiSq`), the p-value of a chi-square statistic: 1 at ChiSq = 0, 0 at infinity.
+/// Computed directly for ChiSq >= DF + 2 (not as 1 - `ChiSquareLess`) and as 1 minus the
+/// lower tail below, so a small p-value keeps its relative precision. Failures as for
+/// `ChiSquareLess`.
 Float ChiSquareGreater(Float ChiSq, Integer DF);
+/// The chi-square density `(x/2)^(DF/2 - 1) e^(-x/2) / (2 Gamma(DF/2))`. At ChiSq = 0 it
+/// is infinity for DF = 1, 1/2 for DF = 2 and 0 beyond; an infinite ChiSq gives NaN.
+/// Failures as for `ChiSquareLess`.
 Float ChiSquarePDF(Float ChiSq, Integer DF);
-// The ChiSq with ChiSquareLess(ChiSq, DF) = P: 0 at P = 0, infinity at P = 1.
+/// The quantile: the ChiSq with `ChiSquareLess(ChiSq, DF) = P`. 0 at P = 0, infinity at
+/// P = 1; otherwise Halley steps on the smaller tail from the Wilson-Hilferty
+/// approximation, to the accuracy of the tails (and so of `KorTolerance`).
+///
+/// Failures (Platform::EMathError), in this order: DF < 1 raises Kornum_RS_Math::rsDF;
+/// P outside [0, 1] (a NaN P included) raises Kornum_RS_Math::rsValue01Inc.
 Float InvChiSquareLess(Float P, Integer DF);
+/// @}
 
 }  // namespace KornumStatistics

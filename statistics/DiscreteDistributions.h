@@ -1,4 +1,12 @@
-// Point probabilities and tails of the binomial and Poisson distributions.
+/// @file
+/// Point probabilities and tails of the binomial and Poisson distributions.
+///
+/// Counts are `Cardinal`. The lower tails ("Less") exclude their bound: they are plain
+/// sums of the point probabilities below it, each point recomputed from scratch, so a tail
+/// equals the sum of the matching "Eq" values and costs that many of them. The upper tails
+/// ("Greater") are 1 minus a lower tail, so a small upper tail keeps only its absolute
+/// accuracy. The range routines treat their two bounds asymmetrically: see
+/// `BinomialBetween`.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -9,23 +17,74 @@ namespace KORNUM_API KornumStatistics {
 using Kornumglobals::Cardinal;
 using Kornumglobals::Float;
 
-// Binomial distribution with N trials and success probability P. Every routine
-// raises rsBinomDistInvalid when N = 0, P < 0, P > 1 or a count it evaluates
-// exceeds N. The tails are plain sums of the point probabilities, so
-// BinomialLess(P, N, R) equals BinomialEq(P, N, 0) + ... + BinomialEq(P, N, R - 1).
-Float BinomialEq(Float P, Cardinal N, Cardinal R);       // P(X = R)
-Float BinomialLess(Float P, Cardinal N, Cardinal R);     // P(X < R)
-Float BinomialGreater(Float P, Cardinal N, Cardinal R);  // P(X > R) = 1 - P(X < R + 1)
-// X1 < X2: P(X1 < X < X2); X1 > X2: P(X2 <= X <= X1); bounds that coincide when
-// compared as Single values: P(X = X1).
-Float BinomialBetween(Float P, Cardinal N, Cardinal X1, Cardinal X2);
+// ---- Binomial -------------------------------------------------------------------------
 
-// Poisson distribution with mean Lambda. Every routine raises rsPoissonInvalid when
-// Lambda <= 0, and rsFactOverflow when a count it evaluates exceeds 1754.
-Float PoissonEq(Float Lambda, Cardinal X);       // P(Y = X)
-Float PoissonLess(Float Lambda, Cardinal X);     // P(Y < X)
-Float PoissonGreater(Float Lambda, Cardinal X);  // P(Y > X) = 1 - P(Y < X + 1)
-// The same bound rule as BinomialBetween.
+/// @name Binomial
+/// The binomial distribution with `N` trials and success probability `P`. Every routine
+/// raises Platform::EMathError with Kornum_RS_Math::rsBinomDistInvalid when N = 0, P < 0,
+/// P > 1 or a count it evaluates exceeds N; P = 0 and P = 1 are accepted. A binomial
+/// coefficient beyond the Float range raises Kornum_RS_Math::rsBinomOverflowed (from
+/// `BinomialCoeff`: from N of about 16,400 on, for counts near N / 2).
+/// @{
+
+/// P(X = `R`): `P^R * BinomialCoeff(N, R) * (1 - P)^(N - R)`, multiplied in that order
+/// (0^0 counts as 1). BinomialEq(0.5, 4, 2) is 0.375. Failures (Platform::EMathError):
+/// Kornum_RS_Math::rsBinomDistInvalid for N = 0, P outside [0, 1] or R > N, then
+/// Kornum_RS_Math::rsBinomOverflowed.
+Float BinomialEq(Float P, Cardinal N, Cardinal R);
+/// P(X < `R`), the bound excluded: the sum of `BinomialEq(P, N, I)` for I = 0 .. R - 1;
+/// 0 for R = 0. Failures (Platform::EMathError): Kornum_RS_Math::rsBinomDistInvalid for
+/// N = 0, P outside [0, 1] or R > N (R = N is accepted), then
+/// Kornum_RS_Math::rsBinomOverflowed.
+Float BinomialLess(Float P, Cardinal N, Cardinal R);
+/// P(X > `R`), computed as `1 - BinomialLess(P, N, R + 1)`. Failures as for
+/// `BinomialLess` with R + 1 as the bound, so BinomialGreater(P, N, N) raises
+/// Kornum_RS_Math::rsBinomDistInvalid.
+Float BinomialGreater(Float P, Cardinal N, Cardinal R);
+/// The probability of a range, asymmetric on purpose:
+/// - `X1 < X2`: P(X1 < X < X2), both ends excluded;
+/// - `X1 > X2`: P(X2 <= X <= X1), both ends included;
+/// - bounds that coincide when compared as Single values with `Kornummath::SameFloat`
+///   (beyond about 10^6 neighbouring counts do): `BinomialEq(P, N, X1)`.
+///
+/// Otherwise the result is `BinomialLess(P, N, X2) - BinomialLess(P, N, X1 + 1)`, negated
+/// when X1 > X2. Failures (Platform::EMathError): Kornum_RS_Math::rsBinomDistInvalid for
+/// N = 0, P outside [0, 1], X1 > N when the bounds coincide, or X2 > N or X1 + 1 > N when
+/// they are apart; then Kornum_RS_Math::rsBinomOverflowed.
+/// BinomialBetween(0.5, 4, 1, 3) is 0.375 and BinomialBetween(0.5, 4, 3, 1) is 0.875.
+Float BinomialBetween(Float P, Cardinal N, Cardinal X1, Cardinal X2);
+/// @}
+
+// ---- Poisson --------------------------------------------------------------------------
+
+/// @name Poisson
+/// The Poisson distribution with mean `Lambda`. Every routine raises Platform::EMathError
+/// with Kornum_RS_Math::rsPoissonInvalid when Lambda <= 0, then
+/// Kornum_RS_Math::rsFactOverflow when it would need the factorial of a count above
+/// `MaxFactorialArgument` (1754).
+/// @{
+
+/// P(Y = `X`): `Lambda^X * exp(-Lambda) / Factorial(X)`. Failures (Platform::EMathError):
+/// Kornum_RS_Math::rsPoissonInvalid for Lambda <= 0, then Kornum_RS_Math::rsFactOverflow
+/// for X > 1754. The power is formed on its own: where Lambda^X overflows the result is
+/// infinite (NaN where exp(-Lambda) underflows as well).
+Float PoissonEq(Float Lambda, Cardinal X);
+/// P(Y < `X`), the bound excluded: the sum of `PoissonEq(Lambda, I)` for I = 0 .. X - 1;
+/// 0 for X = 0. Failures (Platform::EMathError): Kornum_RS_Math::rsPoissonInvalid for
+/// Lambda <= 0, then Kornum_RS_Math::rsFactOverflow for X > 1755, before anything is
+/// summed.
+Float PoissonLess(Float Lambda, Cardinal X);
+/// P(Y > `X`), computed as `1 - PoissonLess(Lambda, X + 1)`. Failures
+/// (Platform::EMathError): Kornum_RS_Math::rsPoissonInvalid for Lambda <= 0, then
+/// Kornum_RS_Math::rsFactOverflow for X > 1754.
+Float PoissonGreater(Float Lambda, Cardinal X);
+/// The probability of a range, with the bound rule of `BinomialBetween`: X1 < X2 gives
+/// P(X1 < Y < X2), X1 > X2 gives P(X2 <= Y <= X1), coinciding bounds give
+/// `PoissonEq(Lambda, X1)`; otherwise `PoissonLess(Lambda, X2) - PoissonLess(Lambda, X1 + 1)`,
+/// negated when X1 > X2. Failures (Platform::EMathError): Kornum_RS_Math::rsPoissonInvalid
+/// for Lambda <= 0, then Kornum_RS_Math::rsFactOverflow for X1 > 1754, or X2 > 1755 when
+/// the bounds are apart.
 Float PoissonBetween(Float Lambda, Cardinal X1, Cardinal X2);
+/// @}
 
 }  // namespace KornumStatistics

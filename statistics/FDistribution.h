@@ -1,4 +1,10 @@
-// The F distribution: both tails computed directly, the density and the inverse.
+/// @file
+/// The F distribution: both tails, the density and the inverse.
+///
+/// Each tail is its own regularised incomplete beta function (neither is 1 minus the
+/// other), with its argument formed from the exact product N1 X and carried in two Floats,
+/// so small tails on both sides keep their relative precision; results are good to near
+/// Float precision.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -10,14 +16,36 @@ using Kornumglobals::Float;
 using Kornumglobals::Integer;
 
 // ---- F with N1 and N2 degrees of freedom ------------------------------------------------------
-// X <= 0: rsValueGZero; N1 or N2 < 1: rsDF. The upper tail is
-// IncompleteBeta(N2 / (N2 + N1 X), N2 / 2, N1 / 2).
+
+/// @name F
+/// The F distribution with `N1` (numerator) and `N2` (denominator) degrees of freedom.
+/// The degrees of freedom are checked after the point or the probability: N1 < 1, then
+/// N2 < 1, raise Platform::EMathError with Kornum_RS_Math::rsDF.
+/// @{
+
+/// P(F < `X`) = `IncompleteBeta(N1 X / (N1 X + N2), N1 / 2, N2 / 2)`; 1 at infinity.
+///
+/// Failures (Platform::EMathError), in this order: X <= 0 raises
+/// Kornum_RS_Math::rsValueGZero (X = 0 included); N1 < 1, then N2 < 1, raise
+/// Kornum_RS_Math::rsDF.
 Float FDistLess(Float X, Integer N1, Integer N2);
+/// P(F > `X`) = `IncompleteBeta(N2 / (N2 + N1 X), N2 / 2, N1 / 2)`, computed directly (not
+/// as 1 - `FDistLess`): the p-value of an F statistic. 0 at infinity. Failures as for
+/// `FDistLess`: Kornum_RS_Math::rsValueGZero for X <= 0, then Kornum_RS_Math::rsDF.
 Float FDistGreater(Float X, Integer N1, Integer N2);
-// X < 0: rsValueGEZero; N1 or N2 < 1: rsDF.
+/// The F density. At X = 0 it is infinity for N1 = 1, 1 for N1 = 2 and 0 beyond; 0 at
+/// infinity.
+///
+/// Failures (Platform::EMathError), in this order: X < 0 raises
+/// Kornum_RS_Math::rsValueGEZero; N1 < 1, then N2 < 1, raise Kornum_RS_Math::rsDF.
 Float FDistPDF(Float X, Integer N1, Integer N2);
-// P outside [0, 1]: rsValue01Inc; N1 or N2 < 1: rsDF; P = 1: rsInvalidValue (the
-// quantile is infinite); 0 at P = 0.
+/// The quantile: the X with `FDistLess(X, N1, N2) = P`, from the inverse incomplete beta
+/// of the smaller side (`Kornummath::InverseIncompleteBeta`). 0 at P = 0.
+///
+/// Failures (Platform::EMathError), in this order: P outside [0, 1] raises
+/// Kornum_RS_Math::rsValue01Inc; N1 < 1, then N2 < 1, raise Kornum_RS_Math::rsDF; P = 1
+/// raises Kornum_RS_Math::rsInvalidValue (the quantile is infinite).
 Float InvFDistLess(Float P, Integer N1, Integer N2);
+/// @}
 
 }  // namespace KornumStatistics
