@@ -4,10 +4,12 @@
 #include "LabelCommand.h"
 #include "MatrixCommand.h"
 #include "RandomCommand.h"
+#include "Output.h"
 
 #include <kornum/KornumPackage.h>
 
 #include <cstdio>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -33,35 +35,48 @@ constexpr const char* Usage =
     "  random     variates of fourteen distributions (kornum random --help)\n"
     "\n"
     "Options:\n"
-    "  --help     show this text and exit\n"
-    "  --version  show the library version and exit\n";
+    "  -h, --help  show this text and exit\n"
+    "  --version   show the library version and exit\n";
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
-    if (arguments.size() == 1 && arguments[0] == "--help") {
-        std::fputs(Usage, stdout);
+int Run(const std::vector<std::string>& arguments, KornumCli::Output& out) {
+    using Command = int (*)(const std::vector<std::string>&, KornumCli::Output&);
+    static const std::map<std::string, Command> commands{{"describe", KornumCli::RunDescribe},
+                                                         {"dist", KornumCli::RunDist},
+                                                         {"label", KornumCli::RunLabel},
+                                                         {"matrix", KornumCli::RunMatrix},
+                                                         {"random", KornumCli::RunRandom}};
+    if (arguments.size() == 1 && (arguments[0] == "--help" || arguments[0] == "-h")) {
+        out.Write(Usage);
         return 0;
     }
     if (arguments.size() == 1 && arguments[0] == "--version") {
-        std::printf("kornum %s\n", KornumPackage::Version().c_str());
+        out.Write("kornum " + KornumPackage::Version() + "\n");
         return 0;
     }
-    if (!arguments.empty() && arguments[0] == "describe")
-        return KornumCli::RunDescribe({arguments.begin() + 1, arguments.end()});
-    if (!arguments.empty() && arguments[0] == "dist")
-        return KornumCli::RunDist({arguments.begin() + 1, arguments.end()});
-    if (!arguments.empty() && arguments[0] == "label")
-        return KornumCli::RunLabel({arguments.begin() + 1, arguments.end()});
-    if (!arguments.empty() && arguments[0] == "random")
-        return KornumCli::RunRandom({arguments.begin() + 1, arguments.end()});
-    if (!arguments.empty() && arguments[0] == "matrix")
-        return KornumCli::RunMatrix({arguments.begin() + 1, arguments.end()});
     if (arguments.empty()) {
         std::fputs(Usage, stderr);
-    } else {
-        std::fprintf(stderr, "kornum: unknown command '%s'\nTry 'kornum --help'.\n", arguments[0].c_str());
+        return 2;
     }
-    return 2;
+    const auto command = commands.find(arguments[0]);
+    if (command == commands.end()) {
+        std::fprintf(stderr, "kornum: unknown command %s\nTry 'kornum --help'.\n", KornumCli::Quoted(arguments[0]).c_str());
+        return 2;
+    }
+    return command->second({arguments.begin() + 1, arguments.end()}, out);
+}
+
+}  // namespace
+
+// Every command writes through one checked output; whatever it wrote is flushed and the
+// output closed at the end, and a failure there is a failure of the command.
+int main(int argc, char** argv) {
+    try {
+        KornumCli::Output out;
+        const int status = Run(std::vector<std::string>(argv + 1, argv + argc), out);
+        out.Finish();
+        return status;
+    } catch (const KornumCli::WriteError& error) {
+        std::fprintf(stderr, "kornum: write error: %s\n", error.what());
+        return 1;
+    }
 }

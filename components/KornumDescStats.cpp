@@ -240,57 +240,71 @@ void TKorDescStats::UpdateStats() {
     iqr_ = quartile3rd_ - quartile1st_;
 }
 
-std::unique_ptr<Platform::TStringList> TKorDescStats::DescStats() {
+std::vector<TKorReportEntry> TKorDescStats::ReportEntries() {
     if (updating_) EndUpdate();
-    auto report = std::make_unique<Platform::TStringList>();
+    std::vector<TKorReportEntry> entries;
     const Integer n = values_.Length();
-    if (n == 0) {
-        report->Add(Kornum_RS_Math::rsVectorIsEmpty.Text());
-        return report;
-    }
-    const auto line = [&](const Platform::ResourceString& caption, Float value) {
-        report->Add(caption.Text() + '\t' + Float2EStr(value, decimalPlaces_));
+    if (n == 0) return entries;
+    const auto line = [&](const char* key, const Platform::ResourceString& caption, Float value) {
+        entries.push_back({key, caption.Text(), value});
     };
-    const auto alone = [&](const Platform::ResourceString& caption) { report->Add(caption.Text()); };
+    const auto alone = [&](const char* key, const Platform::ResourceString& message) {
+        entries.push_back({key, message.Text(), std::nullopt});
+    };
 
-    report->Add(rsDSNoOfValues.Text() + '\t' + Int2EStr(Int64(n)));
-    line(rsDSMaximum, maximum_);
-    line(rsDSMinimum, minimum_);
-    line(rsDSRange, maximum_ - minimum_);
-    line(rsDSSum, sum_);
-    line(rsDSSumSQ, sumSq_);
-    line(rsDSMean, mean_);
+    entries.push_back({"count", rsDSNoOfValues.Text(), Float(n), true});
+    line("maximum", rsDSMaximum, maximum_);
+    line("minimum", rsDSMinimum, minimum_);
+    line("range", rsDSRange, maximum_ - minimum_);
+    line("sum", rsDSSum, sum_);
+    line("sum_of_squares", rsDSSumSQ, sumSq_);
+    line("mean", rsDSMean, mean_);
     if (modeExists_) {
-        line(rsDSMode, mode_);
+        line("mode", rsDSMode, mode_);
     } else {
-        alone(rsDSNoMode);
+        alone("mode", rsDSNoMode);
     }
-    line(rsDSMedian, median_);
+    line("median", rsDSMedian, median_);
     if (!population_ && n == 1) {
-        alone(rsDSNEVariance);
-        alone(rsDSNEStdDev);
+        alone("variance", rsDSNEVariance);
+        alone("standard_deviation", rsDSNEStdDev);
     } else {
-        line(rsDSVariance, variance_);
-        line(rsDSStdDev, stdDev_);
+        line("variance", rsDSVariance, variance_);
+        line("standard_deviation", rsDSStdDev, stdDev_);
     }
     const bool zeroSpread = Kornummath::FloatIsZero(stdDev_);
     if (n < 4) {
-        alone(rsDSNEKurtosis);
+        alone("kurtosis", rsDSNEKurtosis);
     } else if (zeroSpread) {
-        alone(rsDSSDKurtosis);
+        alone("kurtosis", rsDSSDKurtosis);
     } else {
-        line(rsDSKurtosis, kurtosis_);
+        line("kurtosis", rsDSKurtosis, kurtosis_);
     }
     if (n < 3) {
-        alone(rsDSNESkew);
+        alone("skew", rsDSNESkew);
     } else if (zeroSpread) {
-        alone(rsDSSDSkew);
+        alone("skew", rsDSSDSkew);
     } else {
-        line(rsDSSkew, skew_);
+        line("skew", rsDSSkew, skew_);
     }
-    line(rsDSQtr1, quartile1st_);
-    line(rsDSQtr3, quartile3rd_);
-    line(rsDSIQR, iqr_);
+    line("first_quartile", rsDSQtr1, quartile1st_);
+    line("third_quartile", rsDSQtr3, quartile3rd_);
+    line("interquartile_range", rsDSIQR, iqr_);
+    return entries;
+}
+
+// The text report: each entry's caption, and for a value a TAB and its text.
+std::unique_ptr<Platform::TStringList> TKorDescStats::DescStats() {
+    auto report = std::make_unique<Platform::TStringList>();
+    const std::vector<TKorReportEntry> entries = ReportEntries();
+    if (entries.empty()) report->Add(Kornum_RS_Math::rsVectorIsEmpty.Text());
+    for (const TKorReportEntry& entry : entries) {
+        if (!entry.Value)
+            report->Add(entry.Caption);
+        else
+            report->Add(entry.Caption + '\t' +
+                        (entry.Integral ? Int2EStr(Int64(*entry.Value)) : Float2EStr(*entry.Value, decimalPlaces_)));
+    }
     return report;
 }
 

@@ -1,6 +1,6 @@
 // The reader of `kornum describe` with every option, on any text, and the component's
 // report on what it read: numbers, or an InputError naming the place, and nothing else.
-#include "cli/NumberReader.h"
+#include "cli/Input.h"
 
 #include <kornum/KornumDescStats.h>
 

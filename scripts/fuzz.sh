@@ -3,14 +3,14 @@
 # sanitizers, and runs each for SECONDS (default 30) from its seed corpus in
 # fuzz/corpus/. New inputs go to a scratch directory; a crash leaves its input in
 # build-fuzz/ and fails the script.
-#   bash scripts/fuzz.sh [SECONDS] [TARGET ...]    targets: str2float describe_reader text_form
+#   bash scripts/fuzz.sh [SECONDS] [TARGET ...]    targets: the list below
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/install-deps.sh --fuzz
 seconds=${1:-30}
 shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(str2float describe_reader text_form)
+[ ${#targets[@]} -gt 0 ] || targets=(str2float describe_reader text_form matrix_reader dist_arguments random_arguments)
 flags="-fsanitize=address,undefined -fno-sanitize-recover=all -fsanitize=fuzzer-no-link -fno-omit-frame-pointer"
 cmake -S . -B build-fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_EXE_LINKER_FLAGS="-fsanitize=address,undefined" \
@@ -23,7 +23,7 @@ for target in "${targets[@]}"; do
   echo "== fuzzing $target for ${seconds}s"
   status=0
   (cd build-fuzz && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
-    "./fuzz/kornum_fuzz_$target" -max_total_time="$seconds" -print_final_stats=1 \
+    "./fuzz/kornum_fuzz_$target" -max_total_time="$seconds" -print_final_stats=1 -timeout=10 -close_fd_mask=3 \
     "$scratch" "../fuzz/corpus/$target" >"$target.log" 2>&1) || status=$?
   rm -rf "$scratch"
   if [ $status -ne 0 ]; then

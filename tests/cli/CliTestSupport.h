@@ -18,8 +18,8 @@ struct Outcome {
     std::string output;  // standard output and standard error together
 };
 
-inline Outcome RunKornum(const std::string& arguments, const std::string& input = "") {
-    const std::string command = "printf '%s' '" + input + "' | " + KORNUM_CLI_PATH + " " + arguments + " 2>&1";
+// Runs a shell command line; what it writes to its standard output is the outcome's output.
+inline Outcome RunShell(const std::string& command) {
     FILE* pipe = popen(command.c_str(), "r");
     std::string output;
     char buffer[4096];
@@ -27,6 +27,12 @@ inline Outcome RunKornum(const std::string& arguments, const std::string& input 
     while ((count = fread(buffer, 1, sizeof buffer, pipe)) > 0) output.append(buffer, count);
     const int status = pclose(pipe);
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+}
+
+// The program with these arguments (and this text on its standard input), stopped after
+// 60 seconds (exit status 124) should it hang.
+inline Outcome RunKornum(const std::string& arguments, const std::string& input = "") {
+    return RunShell("printf '%s' '" + input + "' | timeout 60 " + KORNUM_CLI_PATH + " " + arguments + " 2>&1");
 }
 
 // A fixture with a private directory for input files.

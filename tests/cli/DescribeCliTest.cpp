@@ -13,11 +13,14 @@ TEST_F(DescribeCli, ReportsFilesAndStandardInputAndRejectsBadInputAndOptions) {
     const Outcome outcome = RunKornum("describe --population " + a + " " + b);
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output,
-              "Number of Values:\t8\nMaximum:\t9.0000\nMinimum:\t2.0000\nRange:\t7.0000\n"
-              "Sum:\t40.0000\nSum of Squares:\t232.0000\nMean:\t5.0000\nMode:\t4.0000\n"
-              "Median:\t4.5000\nVariance:\t4.0000\nStandard Deviation:\t2.0000\n"
-              "Kurtosis:\t-0.2188\nSkew:\t0.6562\nFirst Quartile:\t4.0000\n"
-              "Third Quartile:\t6.0000\nInter-Quartile Range:\t2.0000\n");
+              "Number of Values:\t8\nMaximum:\t9\nMinimum:\t2\nRange:\t7\n"
+              "Sum:\t40\nSum of Squares:\t232\nMean:\t5\nMode:\t4\n"
+              "Median:\t4.5\nVariance:\t4\nStandard Deviation:\t2\n"
+              "Kurtosis:\t-0.21875\nSkew:\t0.65625\nFirst Quartile:\t4\n"
+              "Third Quartile:\t6\nInter-Quartile Range:\t2\n");  // every value exact in binary
+    // --decimals gives the component's own report, fixed decimals.
+    EXPECT_NE(RunKornum("describe --population --decimals 4 " + a + " " + b).output.find("Kurtosis:\t-0.2188\nSkew:\t0.6562\n"),
+              std::string::npos);
 
     const Outcome piped = RunKornum("describe --decimals 1", "1.5 2.5");
     EXPECT_EQ(piped.status, 0);
@@ -31,7 +34,7 @@ TEST_F(DescribeCli, ReportsFilesAndStandardInputAndRejectsBadInputAndOptions) {
     const std::string file = File("bad.txt", "1 2\n3 x4 5\n");
     const Outcome bad = RunKornum("describe " + file);
     EXPECT_EQ(bad.status, 2);
-    EXPECT_EQ(bad.output, "kornum describe: " + file + ":2: 'x4' is not a valid number\n");
+    EXPECT_EQ(bad.output, "kornum describe: " + file + ":2: field 2: not a number: 'x4'\n");
     const Outcome missing = RunKornum("describe " + (directory / "none.txt").string());
     EXPECT_EQ(missing.status, 2);
     EXPECT_NE(missing.output.find("No such file or directory"), std::string::npos);
@@ -52,17 +55,17 @@ TEST_F(DescribeCli, ReadsOneFieldOfEachRecordAfterAHeader) {
     EXPECT_NE(outcome.output.find("Mean:\t4.50\n"), std::string::npos);
     // A delimiter alone reads field 1; a tab is written \t; white space separates fields
     // when only --field is given.
-    EXPECT_NE(RunKornum("describe --delimiter , -", "7,x\n9,y\n").output.find("Sum:\t16.0000\n"), std::string::npos);
-    EXPECT_NE(RunKornum("describe --delimiter '\\t' --field 2 -", "a\t1\nb\t3\n").output.find("Mean:\t2.0000\n"),
+    EXPECT_NE(RunKornum("describe --delimiter , -", "7,x\n9,y\n").output.find("Sum:\t16\n"), std::string::npos);
+    EXPECT_NE(RunKornum("describe --delimiter '\\t' --field 2 -", "a\t1\nb\t3\n").output.find("Mean:\t2\n"),
               std::string::npos);
-    EXPECT_NE(RunKornum("describe --field 2 -", "  a   10\nb 20 c\n").output.find("Sum:\t30.0000\n"), std::string::npos);
+    EXPECT_NE(RunKornum("describe --field 2 -", "  a   10\nb 20 c\n").output.find("Sum:\t30\n"), std::string::npos);
 
     const Outcome missing = RunKornum("describe --field 3 --delimiter , " + csv);
     EXPECT_EQ(missing.status, 2);
-    EXPECT_EQ(missing.output, "kornum describe: " + csv + ":1: field 3: 'note' is not a valid number\n");
+    EXPECT_EQ(missing.output, "kornum describe: " + csv + ":1: field 3: not a number: 'note'\n");
     const Outcome short_line = RunKornum("describe --field 2 -", "1 2\n3\n");
     EXPECT_EQ(short_line.status, 2);
-    EXPECT_EQ(short_line.output, "kornum describe: standard input:2: field 2: the line has 1 field\n");
+    EXPECT_EQ(short_line.output, "kornum describe: standard input:2: field 2: the record has only 1 field\n");
     for (const char* arguments : {"describe --field 0", "describe --field x", "describe --field", "describe --delimiter ab",
                                   "describe --delimiter"})
         EXPECT_EQ(RunKornum(arguments, "1").status, 2) << arguments;
@@ -78,7 +81,7 @@ TEST_F(DescribeCli, ReadsLargeFilesInBlocksOfWholeLines) {
     EXPECT_NE(outcome.output.find("Number of Values:\t3000000\nMaximum:\t12\n"), std::string::npos) << outcome.output;
     EXPECT_NE(outcome.output.find("Sum:\t36000000\n"), std::string::npos);
     const std::string bad = File("bad.txt", text + "1x\n");
-    EXPECT_EQ(RunKornum("describe " + bad).output, "kornum describe: " + bad + ":3000001: '1x' is not a valid number\n");
+    EXPECT_EQ(RunKornum("describe " + bad).output, "kornum describe: " + bad + ":3000001: field 1: not a number: '1x'\n");
     // A large block is read in two halves at once: the first failure in the text is named.
     for (const int line : {1'000'000, 2'000'000}) {
         std::string flawed = text;
@@ -86,7 +89,7 @@ TEST_F(DescribeCli, ReadsLargeFilesInBlocksOfWholeLines) {
         flawed.replace(std::size_t(2'500'000) * 3, 2, "yy");
         const std::string path = File("flawed.txt", flawed);
         EXPECT_EQ(RunKornum("describe " + path).output,
-                  "kornum describe: " + path + ":" + std::to_string(line) + ": 'x0' is not a valid number\n");
+                  "kornum describe: " + path + ":" + std::to_string(line) + ": field 1: not a number: 'x0'\n");
     }
 }
 

@@ -19,7 +19,7 @@ TEST(DistCli, FunctionsInversesAndTables) {
     EXPECT_EQ(RunKornum("dist beta table 0 1 3 2 2").output, "0\t0\n0.5\t1.5\n1\t0\n");
     const Outcome bad = RunKornum("dist t less 1 0");
     EXPECT_EQ(bad.status, 2);
-    EXPECT_EQ(bad.output, "kornum dist: The degrees of freedom are out of range\n");
+    EXPECT_EQ(bad.output, "kornum dist: degrees of freedom must be a whole number >= 1: '0'\nTry 'kornum dist --help'.\n");
     for (const char* arguments : {"dist", "dist normal", "dist gauss less 1 0 1", "dist normal median 1 0 1",
                                   "dist normal less 1 0", "dist normal less x 0 1", "dist poisson inv 0.5 3"})
         EXPECT_EQ(RunKornum(arguments).status, 2) << arguments;

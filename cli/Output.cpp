@@ -1,0 +1,119 @@
+#include "Output.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+
+namespace KornumCli {
+
+std::string NumberText(Float x, int decimals) {
+    if (std::isnan(x)) return "nan";
+    if (std::isinf(x)) return x < 0 ? "-inf" : "inf";
+    // Fixed notation of an 80-bit value needs at most 4933 integer digits.
+    std::string text(64 + (decimals < 0 ? 0 : 4933 + std::size_t(decimals)), '\0');
+    const auto result = decimals < 0 ? std::to_chars(text.data(), text.data() + text.size(), x)
+                                     : std::to_chars(text.data(), text.data() + text.size(), x,
+                                                     std::chars_format::fixed, decimals);
+    text.resize(std::size_t(result.ptr - text.data()));
+    return text;
+}
+
+namespace {
+
+// The length of the UTF-8 sequence at the start of text, or 0 where it is not one
+// (overlong forms, surrogates and code points beyond U+10FFFF included).
+std::size_t Utf8Length(std::string_view text) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned char lead = byte(0);
+    std::size_t length;
+    unsigned low = 0x80, high = 0xBF;  // the range of the second byte
+    if (lead < 0x80) return 1;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        length = 2;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        length = 3;
+        if (lead == 0xE0) low = 0xA0;
+        if (lead == 0xED) high = 0x9F;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        length = 4;
+        if (lead == 0xF0) low = 0x90;
+        if (lead == 0xF4) high = 0x8F;
+    } else {
+        return 0;
+    }
+    if (text.size() < length || byte(1) < low || byte(1) > high) return 0;
+    for (std::size_t i = 2; i < length; ++i)
+        if (byte(i) < 0x80 || byte(i) > 0xBF) return 0;
+    return length;
+}
+
+}  // namespace
+
+std::string Quoted(std::string_view text) {
+    constexpr std::size_t Shown = 40;
+    std::string out = "'";
+    std::size_t characters = 0;
+    while (!text.empty()) {
+        if (characters == Shown) {
+            out += "...";
+            break;
+        }
+        const std::size_t length = Utf8Length(text);
+        const unsigned char c = static_cast<unsigned char>(text[0]);
+        if (length == 0 || c < 0x20 || c == 0x7F) {
+            static constexpr char Hex[] = "0123456789abcdef";
+            out += "\\x";
+            out += Hex[c >> 4];
+            out += Hex[c & 15];
+            text.remove_prefix(1);
+        } else {
+            out.append(text.substr(0, length));
+            text.remove_prefix(length);
+        }
+        ++characters;
+    }
+    return out + "'";
+}
+
+Output::~Output() {
+    if (!finished_ && !buffer_.empty()) {
+        try {
+            Flush();
+        } catch (const WriteError&) {
+            // Only reached while another failure unwinds; that one is reported.
+        }
+    }
+}
+
+void Output::Write(std::string_view text) {
+    written_ += text.size();
+    if (written_ > limit_) throw OutputLimit("the output limit is reached");
+    buffer_.append(text);
+    if (buffer_.size() >= (std::size_t(1) << 16)) Flush();
+}
+
+void Output::Flush() {
+    std::size_t done = 0;
+    while (done < buffer_.size()) {
+        const ssize_t wrote = ::write(descriptor_, buffer_.data() + done, buffer_.size() - done);
+        if (wrote < 0) {
+            if (errno == EINTR) continue;
+            buffer_.clear();
+            throw WriteError(std::strerror(errno));
+        }
+        done += std::size_t(wrote);
+    }
+    buffer_.clear();
+}
+
+void Output::Finish() {
+    if (finished_) return;
+    finished_ = true;
+    Flush();
+    if (closeAtFinish_ && ::close(descriptor_) != 0 && errno != EINTR) throw WriteError(std::strerror(errno));
+}
+
+}  // namespace KornumCli
