@@ -14,7 +14,7 @@ function(kornum_public_headers)
 endfunction()
 
 # A shared library of the package: exported as kornum::<EXPORT_NAME>. Symbols are hidden
-# unless the public headers mark them KORNUM_API (<kornum/KornumExport.h>).
+# unless the public headers export them (KORNUM_EXPORT_BEGIN in <kornum/KornumExport.h>).
 function(kornum_library target export_name)
   add_library(${target} SHARED)
   add_library(kornum::${export_name} ALIAS ${target})

@@ -1,11 +1,17 @@
 include(CMakePackageConfigHelpers)
 
-install(TARGETS kornum_base_rt kornum_stats_rt kornum_canvas EXPORT kornumTargets
+set(kornum_libraries kornum_base_rt kornum_stats_rt)
+if(KORNUM_BUILD_PROGRAM)
+  list(APPEND kornum_libraries kornum_canvas)
+endif()
+install(TARGETS ${kornum_libraries} EXPORT kornumTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(TARGETS kornum RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+if(KORNUM_BUILD_PROGRAM)
+  install(TARGETS kornum RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
 
 set(KORNUM_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/kornum)
 install(EXPORT kornumTargets NAMESPACE kornum:: DESTINATION ${KORNUM_CMAKE_DIR})

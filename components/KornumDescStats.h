@@ -19,7 +19,8 @@
 
 /// The descriptive-statistics component module: `TKorDescStats`, whose captions and
 /// messages are the identifiers of `Kornum_RS_DescStats`.
-namespace KORNUM_API KornumDescStats {
+KORNUM_EXPORT_BEGIN
+namespace KornumDescStats {
 
 using namespace Kornumglobals;
 
@@ -265,3 +266,4 @@ private:
 };
 
 }  // namespace KornumDescStats
+KORNUM_EXPORT_END

@@ -14,7 +14,8 @@
 /// from `Text()` of these, so a replaced table changes the report's language; the
 /// hypothesis-test and regression identifiers serve the sibling reports. The identifiers
 /// are registered by name when the library loads.
-namespace KORNUM_API Kornum_RS_DescStats {
+KORNUM_EXPORT_BEGIN
+namespace Kornum_RS_DescStats {
 
 using Platform::ResourceString;
 
@@ -165,3 +166,4 @@ inline constexpr const ResourceString* AllDescStatsMessages[] = {
 };
 
 }  // namespace Kornum_RS_DescStats
+KORNUM_EXPORT_END

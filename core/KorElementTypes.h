@@ -9,7 +9,8 @@
 #include <cstdint>
 #include <limits>
 
-namespace KORNUM_API Kornumglobals {
+KORNUM_EXPORT_BEGIN
+namespace Kornumglobals {
 
 static_assert(std::numeric_limits<long double>::digits == 64,
               "kornum needs long double to be the 80-bit extended format");
@@ -99,3 +100,4 @@ struct PackedFloat {
 static_assert(sizeof(PackedFloat) == 10 && alignof(PackedFloat) == 1);
 
 }  // namespace Kornumglobals
+KORNUM_EXPORT_END

@@ -19,7 +19,8 @@
 #include <type_traits>
 #include <utility>
 
-namespace KORNUM_API Kornumglobals {
+KORNUM_EXPORT_BEGIN
+namespace Kornumglobals {
 
 /// Allocates the storage of a vector: `bytes` bytes aligned to `alignment`. Blocks of
 /// 4 MiB and more are placed on huge-page boundaries and marked for huge pages, so that
@@ -231,3 +232,4 @@ private:
 };
 
 }  // namespace Kornumglobals
+KORNUM_EXPORT_END

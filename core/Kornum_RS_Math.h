@@ -13,7 +13,8 @@
 /// English default shown in each initializer, unless an application has installed other
 /// texts (`Platform::SetResourceText`, `Platform::ReplaceResourceTable`, by the names
 /// given here). The identifiers are registered by name when the library loads.
-namespace KORNUM_API Kornum_RS_Math {
+KORNUM_EXPORT_BEGIN
+namespace Kornum_RS_Math {
 
 using Platform::ResourceString;
 
@@ -163,3 +164,4 @@ inline constexpr const ResourceString* AllMessages[] = {
 };
 
 }  // namespace Kornum_RS_Math
+KORNUM_EXPORT_END

@@ -11,7 +11,8 @@
 /// The convert module: conversions between numbers and text, independent of the C
 /// locale (the decimal separator is always a point). Text that is not a number raises
 /// `Platform::EConvertError` quoting it; nothing is silently read as 0.
-namespace KORNUM_API Kornumconvert {
+KORNUM_EXPORT_BEGIN
+namespace Kornumconvert {
 
 using Kornumglobals::Byte;
 using Kornumglobals::Float;
@@ -50,3 +51,4 @@ Float Str2Float(std::string_view S);
 std::string StripTChStr(std::string_view S, char Ch);
 
 }  // namespace Kornumconvert
+KORNUM_EXPORT_END

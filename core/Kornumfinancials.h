@@ -20,7 +20,8 @@
 /// currency comparison and swaps. A conversion whose result does not fit its target
 /// raises `Platform::ERangeError` ("The value VALUE is out of the range of TYPE", the
 /// value in units of one).
-namespace KORNUM_API Kornumfinancials {
+KORNUM_EXPORT_BEGIN
+namespace Kornumfinancials {
 
 using namespace Kornumglobals;
 
@@ -85,3 +86,4 @@ inline void SwapXY(KorCurrency& X, KorCurrency& Y) noexcept { std::swap(X, Y); }
 /// @}
 
 }  // namespace Kornumfinancials
+KORNUM_EXPORT_END

@@ -14,7 +14,8 @@
 /// The globals module: the element types (`Float`, `Int64`, `Currency`, ...), the vector
 /// template `TKorVector` with its thirteen vector and thirteen matrix types, and the
 /// global settings (`KorTolerance`, `KorNullStr`) and constants of the base layer.
-namespace KORNUM_API Kornumglobals {
+KORNUM_EXPORT_BEGIN
+namespace Kornumglobals {
 
 // Vectors, one per element type. TKorCurrVector and TKorLongCurrVector are the same
 // types as the 32- and 64-bit integer vectors: the module called decides whether the
@@ -98,3 +99,4 @@ inline constexpr Float KorPi = 3.141592653589793238462643383279502884L;
 extern std::string KorNullStr;
 
 }  // namespace Kornumglobals
+KORNUM_EXPORT_END

@@ -13,7 +13,8 @@
 /// comparisons, all in `Float`. None of them raises: an argument outside a function's
 /// domain gives a quiet NaN (floating-point exceptions stay masked), as documented for
 /// each function.
-namespace KORNUM_API Kornummath {
+KORNUM_EXPORT_BEGIN
+namespace Kornummath {
 
 using Kornumglobals::Double;
 using Kornumglobals::Float;
@@ -178,3 +179,4 @@ inline bool FloatIsPositive(Float X) noexcept { return X > 0 && !FloatIsZero(X);
 inline bool FloatIsNegative(Float X) noexcept { return X < 0 && !FloatIsZero(X); }
 
 }  // namespace Kornummath
+KORNUM_EXPORT_END

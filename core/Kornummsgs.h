@@ -10,7 +10,8 @@
 
 /// The messages module: showing a message to the user instead of raising it
 /// (`ErrorMsg`, through a replaceable handler), and the general message texts.
-namespace KORNUM_API Kornummsgs {
+KORNUM_EXPORT_BEGIN
+namespace Kornummsgs {
 
 /// The text shown for a value that is not available (`Kornum_RS_Math::rsNA`).
 using Kornum_RS_Math::rsNA;
@@ -28,3 +29,4 @@ void ErrorMsg(const std::string& Text);
 TErrorMsgHandler SetErrorMsgHandler(TErrorMsgHandler Handler);
 
 }  // namespace Kornummsgs
+KORNUM_EXPORT_END

@@ -10,7 +10,8 @@
 
 /// The system module: exchanging two variables of an element type and clearing raw
 /// memory.
-namespace KORNUM_API Kornumsystem {
+KORNUM_EXPORT_BEGIN
+namespace Kornumsystem {
 
 using namespace Kornumglobals;
 
@@ -43,3 +44,4 @@ inline void SwapXY(PackedFloat& X, PackedFloat& Y) noexcept { std::swap(X, Y); }
 void KorClear(void* P, Cardinal Size);
 
 }  // namespace Kornumsystem
+KORNUM_EXPORT_END

@@ -14,7 +14,8 @@
 
 /// The currency matrix module: the matrix routines of `TKorCurrMatrix`,
 /// `TKorLongCurrMatrix` and `TKorCurrencyMatrix` (see @ref page_matrices).
-namespace KORNUM_API KornumFinMatrix {
+KORNUM_EXPORT_BEGIN
+namespace KornumFinMatrix {
 
 using namespace Kornumglobals;
 
@@ -455,3 +456,4 @@ Currency GrandMean(const TKorCurrencyMatrix& X, LongWord& N);
 /// @}
 
 }  // namespace KornumFinMatrix
+KORNUM_EXPORT_END

@@ -16,7 +16,8 @@
 
 /// The matrix module: the routines over the ten numeric matrix types, from
 /// `TKorFloatMatrix` to `TKorSIntMatrix` (see @ref page_matrices).
-namespace KORNUM_API KornumMatrix {
+KORNUM_EXPORT_BEGIN
+namespace KornumMatrix {
 
 using namespace Kornumglobals;
 
@@ -1003,3 +1004,4 @@ Boolean MatrixInverse(TKorDoubleMatrix& M, TKorDoubleMatrix& Inv);
 Boolean MatrixInverse(TKorSingleMatrix& M, TKorSingleMatrix& Inv);
 /// @}
 }  // namespace KornumMatrix
+KORNUM_EXPORT_END

@@ -13,7 +13,8 @@
 /// application can replace, the global uniform generator, persistent objects and string
 /// lists, components with a published-property table and a text form, and a
 /// toolkit-neutral drawing slice (rectangles, colours, fonts, an abstract canvas).
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 /// Raises a failure: looks up the text of `resource` in the table in force at this moment
 /// (`ResourceString::Text`) and throws `E` carrying exactly that text. `E` is
@@ -30,3 +31,4 @@ inline void Require(bool Holds, const ResourceString& resource) {
 }
 
 }  // namespace Platform
+KORNUM_EXPORT_END

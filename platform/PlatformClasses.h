@@ -13,7 +13,8 @@
 #include <string_view>
 #include <vector>
 
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 /// An object whose contents can be copied from another with `Assign`.
 class TPersistent {
@@ -114,3 +115,4 @@ private:
 };
 
 }  // namespace Platform
+KORNUM_EXPORT_END

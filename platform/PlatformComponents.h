@@ -13,7 +13,8 @@
 #include <variant>
 #include <vector>
 
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 class TComponent;
 
@@ -103,3 +104,4 @@ private:
 };
 
 }  // namespace Platform
+KORNUM_EXPORT_END

@@ -7,7 +7,8 @@
 #include <exception>
 #include <string>
 
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 /// The root class of the library's exceptions: one message text, returned unchanged by
 /// `what()` and `Message()`.
@@ -50,3 +51,4 @@ public:
 };
 
 }  // namespace Platform
+KORNUM_EXPORT_END

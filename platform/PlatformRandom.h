@@ -9,7 +9,8 @@
 #include <kornum/KornumExport.h>
 #include <cstdint>
 
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 /// Seeds the global generator: the same seed always gives the same stream.
 void RandSeed(std::uint64_t Seed) noexcept;
@@ -26,3 +27,4 @@ std::uint64_t RandomBits() noexcept;
 inline constexpr std::uint64_t DefaultRandSeed = 0x6B6F726E756D2021ull;
 
 }  // namespace Platform
+KORNUM_EXPORT_END

@@ -11,7 +11,8 @@
 #include <utility>
 #include <vector>
 
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 /// A message identifier: a constant naming one message, with its English default text.
 /// The identifiers of the numeric routines are those of `Kornum_RS_Math`.
@@ -54,3 +55,4 @@ const ResourceString* FindResource(std::string_view name);
 bool RegisterResources(const ResourceString* const* resources, std::size_t count);
 
 }  // namespace Platform
+KORNUM_EXPORT_END

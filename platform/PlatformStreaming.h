@@ -22,7 +22,8 @@
 #include <string>
 #include <string_view>
 
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 /// Raised for a text form that cannot be read; the message says what and, for a property
 /// line, where ("Line 3: a number was expected").
@@ -48,3 +49,4 @@ std::string WriteComponentText(const TComponent& Component);
 void ReadComponentText(TComponent& Component, std::string_view Text);
 
 }  // namespace Platform
+KORNUM_EXPORT_END

@@ -23,7 +23,8 @@
 /// safe on several threads when their source is (`DefaultRandom` is not). Failures raise
 /// `Platform::EMathError` with a message identifier of `Kornum_RS_Math`, before the first
 /// uniform is drawn unless a generator says otherwise.
-namespace KORNUM_API KornumRandom {
+KORNUM_EXPORT_BEGIN
+namespace KornumRandom {
 
 using namespace Kornumglobals;
 
@@ -226,3 +227,4 @@ void Random_MVNorm(const TKorFloatVector& H, const TKorFloatVector& D, TKorFloat
 /// @}
 
 }  // namespace KornumRandom
+KORNUM_EXPORT_END

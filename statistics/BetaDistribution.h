@@ -11,7 +11,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 
@@ -48,3 +49,4 @@ Float InvBetaDistLess(Float P, Float A, Float B, Float Lo = 0, Float Hi = 1);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

@@ -15,7 +15,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::Integer;
@@ -69,3 +70,4 @@ Float InvChiSquareLess(Float P, Integer DF);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

@@ -7,7 +7,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Cardinal;
 using Kornumglobals::Float;
@@ -40,3 +41,4 @@ Float Permutation(Cardinal N, Cardinal R);
 Float BinomialCoeff(Cardinal N, Cardinal R);
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

@@ -13,7 +13,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Cardinal;
 using Kornumglobals::Float;
@@ -72,3 +73,4 @@ void PoissonPDFValues(Float Lambda, Cardinal KMax, TKorFloatVector& X, TKorFloat
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

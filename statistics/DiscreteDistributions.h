@@ -12,7 +12,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Cardinal;
 using Kornumglobals::Float;
@@ -88,3 +89,4 @@ Float PoissonBetween(Float Lambda, Cardinal X1, Cardinal X2);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

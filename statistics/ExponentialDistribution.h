@@ -9,7 +9,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 
@@ -33,3 +34,4 @@ Float ExponentialPDF(Float X, Float Lambda);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

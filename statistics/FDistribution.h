@@ -10,7 +10,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::Integer;
@@ -49,3 +50,4 @@ Float InvFDistLess(Float P, Integer N1, Integer N2);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

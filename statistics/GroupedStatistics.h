@@ -15,7 +15,8 @@
 
 #include <limits>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::TKorLWordVector;
@@ -112,3 +113,4 @@ Float GetGroupedPopulationKurtosis(const TKorLWordVector& F, Float L, Float W, F
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

@@ -14,7 +14,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 
@@ -130,3 +131,4 @@ Float InvLogNormalGreater(Float Mean, Float StdDev, Float P);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

@@ -14,7 +14,8 @@
 
 #include <array>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Boolean;
 using Kornumglobals::Float;
@@ -144,3 +145,4 @@ Float ExcelTrimmedMean(const TKorLWordVector& X, Float Alpha);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

@@ -8,7 +8,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::TKorFloatVector;
@@ -30,3 +31,4 @@ void GetRegressionLine(const TKorFloatVector& X, const TKorFloatVector& Y, Float
 Float GetSSE(const TKorFloatVector& X, const TKorFloatVector& Y, Float Intercept, Float Slope);
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

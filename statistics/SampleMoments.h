@@ -12,7 +12,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::TKorDoubleVector;
@@ -280,3 +281,4 @@ Float GetPopulationKurtosis(const TKorFloatVector& X, Float Mean, Float StdDev);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

@@ -11,7 +11,8 @@
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 
-namespace KORNUM_API KornumStatistics {
+KORNUM_EXPORT_BEGIN
+namespace KornumStatistics {
 
 using Kornumglobals::Float;
 using Kornumglobals::Integer;
@@ -45,3 +46,4 @@ Float InvStudentTLess(Float P, Integer DF);
 /// @}
 
 }  // namespace KornumStatistics
+KORNUM_EXPORT_END

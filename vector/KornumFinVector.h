@@ -16,7 +16,8 @@
 /// The currency vector module: the vector routines of `TKorCurrVector`,
 /// `TKorLongCurrVector` and `TKorCurrencyVector`, and the conversions between them
 /// (see @ref page_vectors).
-namespace KORNUM_API KornumFinVector {
+KORNUM_EXPORT_BEGIN
+namespace KornumFinVector {
 
 using namespace Kornumglobals;
 
@@ -510,3 +511,4 @@ TKorFloatVector Vector2FloatVector(const TKorCurrencyVector& V);
 /// @}
 
 }  // namespace KornumFinVector
+KORNUM_EXPORT_END

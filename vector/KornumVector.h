@@ -14,7 +14,8 @@
 
 /// The vector module: the routines over the ten numeric vector types, from
 /// `TKorFloatVector` to `TKorSIntVector` (see @ref page_vectors).
-namespace KORNUM_API KornumVector {
+KORNUM_EXPORT_BEGIN
+namespace KornumVector {
 
 using namespace Kornumglobals;
 
@@ -1037,3 +1038,4 @@ TKorSingleVector MovingAverage(const TKorSingleVector& V, Cardinal K, Cardinal P
 Float KorPolynomial(const TKorFloatVector& C, Float X);
 
 }  // namespace KornumVector
+KORNUM_EXPORT_END
