@@ -35,8 +35,7 @@ CommandTable DescribeTable(DescribeSettings& s) {
         {
             {"--population", "", "", "treat the numbers as a whole population (default: a sample)",
              [&s](const std::string&) { s.population = true; }},
-            {"--decimals", "", "N", "fixed decimals, 0 to 255 (default: the shortest form\nthat reads back as the same value)",
-             [&s](const std::string& v) { s.decimals = int(WholeNumber(v, "--decimals", 0, 255)); }},
+            DecimalsOption(s.decimals),
             {"--json", "", "", "print the statistics as one JSON object (null where the\nreport gives no value)",
              [&s](const std::string&) { s.json = true; }},
             {"--field", "", "N", "the number is field N (1-based) of each record",

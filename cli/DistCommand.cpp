@@ -40,8 +40,7 @@ CommandTable DistTable(DistSettings& s) {
         "  exponential LAMBDA      binomial N P       poisson MU\n"
         "Degrees of freedom and trials are whole numbers; a discrete VALUE is a whole k >= 0.\n",
         {
-            {"--decimals", "", "N", "fixed decimals, 0 to 255 (default: the shortest form\nthat reads back as the same value)",
-             [&s](const std::string& v) { s.decimals = int(WholeNumber(v, "--decimals", 0, 255)); }},
+            DecimalsOption(s.decimals),
         },
         ""};
 }

@@ -37,8 +37,7 @@ CommandTable MatrixTable(MatrixSettings& s) {
         "  transpose  the transpose\n"
         "  multiply   the product of the matrices in FILE and FILE2\n",
         {
-            {"--decimals", "", "N", "fixed decimals, 0 to 255 (default: the shortest form\nthat reads back as the same value)",
-             [&s](const std::string& v) { s.decimals = int(WholeNumber(v, "--decimals", 0, 255)); }},
+            DecimalsOption(s.decimals),
             {"--delimiter", "", "C", "the numbers of a row are separated by the character C",
              [&s](const std::string& v) { s.read.delimiter = Delimiter(v); }},
             {"--header", "", "", "skip the first line of each file", [&s](const std::string&) { s.read.header = true; }},

@@ -27,6 +27,11 @@ std::string Spelling(const Option& option) {
 
 }  // namespace
 
+Option DecimalsOption(int& decimals) {
+    return {"--decimals", "", "N", "fixed decimals, 0 to 255 (default: the shortest form\nthat reads back as the same value)",
+            [&decimals](const std::string& v) { decimals = int(WholeNumber(v, "--decimals", 0, 255)); }};
+}
+
 std::string HelpText(const CommandTable& command) {
     std::string text = command.Usage + "\n";
     if (!command.Description.empty()) text += "\n" + command.Description;

@@ -39,6 +39,10 @@ struct CommandTable {
     std::string Epilogue;
 };
 
+// The --decimals N option of the commands that print numbers: N fixed decimals, 0 to 255,
+// stored in Decimals (which stays -1, the shortest form, when the option is not given).
+Option DecimalsOption(int& decimals);
+
 // The help text of a command, its option list generated from the table.
 std::string HelpText(const CommandTable& command);
 

@@ -11,14 +11,8 @@ namespace KornumStatistics {
 
 namespace {
 
-namespace special = Kornummath::special;
-using special::TwoFloat;
+using namespace detail;  // the distribution sources' shared checks and pieces
 using Kornummath::InverseIncompleteBeta;
-using detail::ExpOver;
-using detail::Infinity;
-using detail::RequireDegrees;
-using detail::RequireProbability;
-using Platform::Require;
 
 void RequireBeta(Float a, Float b, Float lo, Float hi) {
     Require(a > 0 && b > 0, Kornum_RS_Math::rsValueGZero);

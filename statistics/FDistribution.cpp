@@ -11,14 +11,8 @@ namespace KornumStatistics {
 
 namespace {
 
-namespace special = Kornummath::special;
-using special::TwoFloat;
+using namespace detail;  // the distribution sources' shared checks and pieces
 using Kornummath::InverseIncompleteBeta;
-using detail::ExpOver;
-using detail::Infinity;
-using detail::RequireDegrees;
-using detail::RequireProbability;
-using Platform::Require;
 
 void RequireF(Float x, Integer n1, Integer n2, const Platform::ResourceString& negative, bool zeroAllowed) {
     Require(zeroAllowed ? x >= 0 : x > 0, negative);

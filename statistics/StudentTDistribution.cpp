@@ -11,13 +11,7 @@
 namespace KornumStatistics {
 namespace {
 
-namespace special = Kornummath::special;
-using special::TwoFloat;
-using detail::ExpOver;
-using detail::Infinity;
-using detail::RequireDegrees;
-using detail::RequireProbability;
-using Platform::Require;
+using namespace detail;  // the distribution sources' shared checks and pieces
 
 // ln(1 + u) for u >= 0 given as a TwoFloat, in TwoFloat.
 TwoFloat LogOnePlus(TwoFloat u) { return special::Log(special::TwoSum(1, u.hi) + TwoFloat{u.lo, 0}); }

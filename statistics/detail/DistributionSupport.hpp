@@ -12,14 +12,16 @@
 
 namespace KornumStatistics::detail {
 
+namespace special = Kornummath::special;
 using Kornumglobals::Float;
 using Kornumglobals::Integer;
-using Kornummath::special::TwoFloat;
+using Platform::Require;
+using special::TwoFloat;
 
 inline constexpr Float Infinity = std::numeric_limits<Float>::infinity();
 
-inline void RequireProbability(Float p) { Platform::Require(p >= 0 && p <= 1, Kornum_RS_Math::rsValue01Inc); }
-inline void RequireDegrees(Integer df) { Platform::Require(df >= 1, Kornum_RS_Math::rsDF); }
+inline void RequireProbability(Float p) { Require(p >= 0 && p <= 1, Kornum_RS_Math::rsValue01Inc); }
+inline void RequireDegrees(Integer df) { Require(df >= 1, Kornum_RS_Math::rsDF); }
 
 // exp(E) / divisor with E a TwoFloat: one exponential at the end.
 inline Float ExpOver(TwoFloat e, Float divisor) { return Kornummath::special::Exp(e) / divisor; }
