@@ -6,7 +6,8 @@
 /// The SVG keeps text as text: one `<text>` element per draw, naming its font and holding
 /// the Unicode characters drawn, so that the picture stays searchable and readable by
 /// assistive tools. A "Symbol" font's bytes are drawn as the characters the Adobe Symbol
-/// encoding gives them, in DejaVu Sans, which has the Greek letters and the symbols.
+/// encoding gives them, in DejaVu Sans, which has the Greek letters and the symbols; other
+/// faces read Latin-1 or UTF-8 as the canvas's `Platform::TCanvas::TextEncoding` says.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -19,13 +20,57 @@
 
 /// The Cairo canvas module (library kornum_canvas): `TKorImageCanvas`, an implementation of
 /// `Platform::TCanvas` that writes SVG, PNG or PDF, and its helpers.
-namespace KORNUM_API KornumCanvas {
+KORNUM_EXPORT_BEGIN
+namespace KornumCanvas {
 
 /// The file formats of a `TKorImageCanvas`.
 enum class TImageFormat {
     Svg,  ///< SVG, written by the canvas itself: text stays text, one element per draw.
     Png,  ///< PNG, rendered by Cairo.
     Pdf   ///< PDF, written by Cairo with the fonts embedded.
+};
+
+/// The largest width and height of a PNG, in pixels: the limit of Cairo's images.
+inline constexpr std::int32_t MaxPngSide = 32767;
+
+/// Raised by the `TKorImageCanvas` constructor for a size it cannot make: a side below 1
+/// pixel, a PNG side beyond `MaxPngSide`, or a surface Cairo refuses (out of memory). The
+/// message gives the size asked for and the limit or Cairo's reason.
+class EImageSize : public Platform::Exception {
+public:
+    /// An exception carrying `message`.
+    using Platform::Exception::Exception;
+};
+
+/// Raised when text holds a character that the font drawing it has no glyph for (Cairo
+/// would draw the font's empty box). The message names the face and the character, as
+/// `U+4E2D` followed by the character itself unless it is a control character:
+/// "the font 'DejaVu Sans' has no glyph for U+4E2D '中'".
+class EMissingGlyph : public Platform::Exception {
+public:
+    /// The exception for Character missing from the face Face.
+    EMissingGlyph(char32_t Character, const std::string& Face);
+    /// The character that has no glyph.
+    char32_t Character() const noexcept { return character_; }
+
+private:
+    char32_t character_;
+};
+
+/// Raised by `TKorImageCanvas::SaveToFile` when the file cannot be opened, written or
+/// closed. The message is "cannot write the image to 'PATH': REASON", REASON being the
+/// system's (`std::strerror`), which `Reason` gives alone.
+class EWriteError : public Platform::Exception {
+public:
+    /// The exception for the file at Path and the system's error number Error.
+    EWriteError(const std::string& Path, int Error);
+    /// The path of the file that could not be written.
+    const std::string& Path() const noexcept { return path_; }
+    /// The system's reason: "No space left on device", "Permission denied", ...
+    const std::string& Reason() const noexcept { return reason_; }
+
+private:
+    std::string path_, reason_;
 };
 
 /// The format a file name's extension asks for (`.svg`, `.png`, `.pdf`, lower case, after
@@ -40,7 +85,12 @@ std::string RenderingFace(std::string_view Face);
 /// the bytes of an SVG, PNG or PDF file.
 ///
 /// Text is measured with Cairo and the fonts fontconfig finds, at 96 pixels per inch (a
-/// font of 10 points is set at 13.33 pixels). System colours are resolved by
+/// font of 10 points is set at 13.33 pixels); a character the font has no glyph for
+/// raises `EMissingGlyph` when it is measured or drawn, and text that is not UTF-8 on a
+/// canvas reading UTF-8 raises `Platform::EConvertError`. Coordinates are pixels in every
+/// format: a PNG has one pixel per unit, while a PDF page is 0.75 points per pixel (72
+/// points per inch over 96 pixels) and an SVG gives its font sizes in points, so that in
+/// both a font of 10 points is 10 points on the page. System colours are resolved by
 /// `Platform::TCanvas::Resolve` (a light desktop theme). `Platform::TextFlags::Center` and
 /// `Platform::TextFlags::Right` align the text within the rectangle,
 /// `Platform::TextFlags::CalcRect` measures without drawing, and `&` is an accelerator
@@ -49,7 +99,9 @@ std::string RenderingFace(std::string_view Face);
 /// in PNG and PDF only.
 class TKorImageCanvas : public Platform::TCanvas {
 public:
-    /// An image of Width x Height pixels (points in a PDF), filled with Background.
+    /// An image of Width x Height pixels (a PDF page of 0.75 Width x 0.75 Height points),
+    /// filled with Background. A size the canvas cannot make (a side below 1, a PNG side
+    /// beyond `MaxPngSide`) raises `EImageSize`.
     TKorImageCanvas(TImageFormat Format, std::int32_t Width, std::int32_t Height, Platform::TColor Background);
     /// Releases the Cairo surface.
     ~TKorImageCanvas() override;
@@ -68,10 +120,13 @@ public:
     std::int32_t LineHeight();
 
     /// The image as the file's bytes. For a PDF this finishes the document: later draws do
-    /// not reach it.
+    /// not reach it. A PNG or PDF that Cairo fails to write raises `Platform::Exception`
+    /// with Cairo's reason.
     std::string Contents();
-    /// Writes `Contents` to the file at Path. A file that cannot be written raises
-    /// `Platform::Exception` naming it.
+    /// Writes `Contents` to the file at Path, created or replaced. A file that cannot be
+    /// opened, written or closed raises `EWriteError` naming it with the system's reason; a
+    /// regular file left partly written is removed first, so that Path holds either the
+    /// whole image or nothing.
     void SaveToFile(const std::string& Path);
 
 private:
@@ -80,3 +135,4 @@ private:
 };
 
 }  // namespace KornumCanvas
+KORNUM_EXPORT_END

@@ -1,5 +1,7 @@
 #include "Output.h"
 
+#include <kornum/PlatformGraphics.h>
+
 #include <unistd.h>
 
 #include <cerrno>
@@ -21,37 +23,6 @@ std::string NumberText(Float x, int decimals) {
     return text;
 }
 
-namespace {
-
-// The length of the UTF-8 sequence at the start of text, or 0 where it is not one
-// (overlong forms, surrogates and code points beyond U+10FFFF included).
-std::size_t Utf8Length(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char lead = byte(0);
-    std::size_t length;
-    unsigned low = 0x80, high = 0xBF;  // the range of the second byte
-    if (lead < 0x80) return 1;
-    if (lead >= 0xC2 && lead <= 0xDF) {
-        length = 2;
-    } else if (lead >= 0xE0 && lead <= 0xEF) {
-        length = 3;
-        if (lead == 0xE0) low = 0xA0;
-        if (lead == 0xED) high = 0x9F;
-    } else if (lead >= 0xF0 && lead <= 0xF4) {
-        length = 4;
-        if (lead == 0xF0) low = 0x90;
-        if (lead == 0xF4) high = 0x8F;
-    } else {
-        return 0;
-    }
-    if (text.size() < length || byte(1) < low || byte(1) > high) return 0;
-    for (std::size_t i = 2; i < length; ++i)
-        if (byte(i) < 0x80 || byte(i) > 0xBF) return 0;
-    return length;
-}
-
-}  // namespace
-
 std::string Quoted(std::string_view text) {
     constexpr std::size_t Shown = 40;
     std::string out = "'";
@@ -61,7 +32,7 @@ std::string Quoted(std::string_view text) {
             out += "...";
             break;
         }
-        const std::size_t length = Utf8Length(text);
+        const std::size_t length = Platform::Utf8CharLength(text);
         const unsigned char c = static_cast<unsigned char>(text[0]);
         if (length == 0 || c < 0x20 || c == 0x7F) {
             static constexpr char Hex[] = "0123456789abcdef";

@@ -89,24 +89,33 @@ void TKorMathLabel::DoDrawLabel(Platform::TRect& Rect, std::uint32_t Flags) {
     if ((Flags & Platform::TextFlags::CalcRect) && (text.empty() || (ShowAccelChar() && text == "&"))) text.assign(1, ' ');
     if (!ShowAccelChar()) Flags |= Platform::TextFlags::NoPrefix;
     const auto [down, up] = EffectColors();
+    Platform::TCanvas& canvas = Canvas();
+    // A canvas that reads UTF-8 gets whole sequences, one character per draw; the caption
+    // is checked first, so that a bad one draws nothing.
+    const bool utf8 = canvas.TextEncoding() == Platform::TTextEncoding::Utf8;
+    if (utf8) Platform::CheckUtf8(text);
     if (text.empty()) return;
 
-    Platform::TCanvas& canvas = Canvas();
     bool escape = false;
-    for (const char c : text) {
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = utf8 ? Platform::Utf8CharLength(std::string_view(text).substr(at)) : 1;
+        const std::string_view c = std::string_view(text).substr(at, length);
+        at += length;
         std::string s;
         if (escape) {
-            if (c == '^') {
+            if (c == "^") {
                 canvas.Font().Assign(Font());
                 s.assign(1, '^');
             } else {
+                // Only a one-byte character can stand for a symbol; any longer one is "any
+                // other character", a blank.
                 canvas.Font().Assign(*symbolFont_);
-                s.assign(1, SymbolCode(c));
+                s.assign(1, length == 1 ? SymbolCode(c[0]) : ' ');
             }
             escape = false;
-        } else if (c != '^') {
+        } else if (c != "^") {
             canvas.Font().Assign(Font());
-            s.assign(1, c);
+            s.assign(c);
         } else {
             escape = true;
             continue;

@@ -5,7 +5,8 @@
 /// `^W` is Omega), the characters of a fixed table as symbol codes (`^+` is not-equal, `^<`
 /// less-or-equal, `^8` element-of, ...), `^^` as a caret in the caption's font, and any
 /// other character as a blank. A caret at the very end draws nothing. Drawing goes one
-/// character at a time and stops at the right edge of the rectangle.
+/// character at a time and stops at the right edge of the rectangle; a character is a
+/// byte, or a whole UTF-8 sequence on a canvas that reads UTF-8.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -15,7 +16,8 @@
 
 /// The math-label module: `TKorMathLabel`, a label drawing Greek letters and mathematical
 /// symbols inside ordinary text.
-namespace KORNUM_API KornumMathLabel {
+KORNUM_EXPORT_BEGIN
+namespace KornumMathLabel {
 
 using namespace Kornumglobals;
 
@@ -43,7 +45,12 @@ using namespace Kornumglobals;
 /// | any other character | a blank, in the symbol font |
 ///
 /// A caret as the last character draws nothing. The caption is drawn one character at a
-/// time, each call advancing the rectangle's left edge by the character's width; the first
+/// time. A character is one byte on a canvas that reads Latin-1 (the default), or one whole
+/// UTF-8 sequence on a canvas whose `Platform::TCanvas::TextEncoding` is
+/// `Platform::TTextEncoding::Utf8`; there a caret takes the whole character after it (`^µ`
+/// is a blank, as any other character), and a caption that is not UTF-8 raises
+/// `Platform::EConvertError` (as `Platform::CheckUtf8`) before anything is drawn. Each call
+/// advances the rectangle's left edge by the character's width; the first
 /// character that passes the right edge is the last drawn. The alignment applies to each
 /// character within what is left of the rectangle, so only left justification, which the
 /// constructor sets with `AutoSize` off, lays the caption out as one line; with the raised
@@ -77,8 +84,10 @@ public:
 
 protected:
     /// Draws the caption into Rect with Flags, on the canvas of the `Paint` in progress,
-    /// one character at a time: plain characters in `Font`, a caret's symbol in
-    /// `SymbolFont`. Rect's left edge advances by each character's width. With
+    /// one character at a time (a byte, or a UTF-8 sequence on a canvas that reads UTF-8,
+    /// where a caption that is not UTF-8 raises `Platform::EConvertError` before any
+    /// draw): plain characters in `Font`, a caret's symbol in `SymbolFont`. Rect's left
+    /// edge advances by each character's width. With
     /// `Platform::TextFlags::CalcRect` an empty caption (or a lone `&` when
     /// `ShowAccelChar`) is measured as a blank; without `ShowAccelChar`,
     /// `Platform::TextFlags::NoPrefix` is added so that `&` is drawn.
@@ -89,3 +98,4 @@ private:
 };
 
 }  // namespace KornumMathLabel
+KORNUM_EXPORT_END

@@ -15,7 +15,8 @@
 /// The controls module: the toolkit-neutral base of the library's controls. A control
 /// keeps its state and draws only through `Platform::TCanvas`; a host application
 /// translates its toolkit's events into plain calls.
-namespace KORNUM_API Kornumcontrols {
+KORNUM_EXPORT_BEGIN
+namespace Kornumcontrols {
 
 using namespace Kornumglobals;
 
@@ -185,3 +186,4 @@ private:
 };
 
 }  // namespace Kornumcontrols
+KORNUM_EXPORT_END

@@ -116,9 +116,73 @@ void TFont::FromText(std::string_view Text) {
     Color = color;
 }
 
-std::u32string DecodeText(std::string_view Text, std::string_view Face) {
+std::size_t Utf8CharLength(std::string_view Text) noexcept {
+    if (Text.empty()) return 0;
+    const auto byte = [Text](std::size_t i) { return static_cast<unsigned char>(Text[i]); };
+    const unsigned char lead = byte(0);
+    if (lead < 0x80) return 1;
+    // The lead byte gives the length; the range of the second byte excludes the overlong
+    // forms (after E0 and F0), the surrogates (after ED) and what lies beyond U+10FFFF
+    // (after F4).
+    std::size_t length;
+    unsigned char low = 0x80, high = 0xBF;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        length = 2;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        length = 3;
+        if (lead == 0xE0) low = 0xA0;
+        if (lead == 0xED) high = 0x9F;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        length = 4;
+        if (lead == 0xF0) low = 0x90;
+        if (lead == 0xF4) high = 0x8F;
+    } else {
+        return 0;
+    }
+    if (Text.size() < length || byte(1) < low || byte(1) > high) return 0;
+    for (std::size_t i = 2; i < length; ++i)
+        if (byte(i) < 0x80 || byte(i) > 0xBF) return 0;
+    return length;
+}
+
+bool IsUtf8(std::string_view Text) noexcept {
+    while (!Text.empty()) {
+        const std::size_t length = Utf8CharLength(Text);
+        if (length == 0) return false;
+        Text.remove_prefix(length);
+    }
+    return true;
+}
+
+void CheckUtf8(std::string_view Text) {
+    for (std::size_t at = 0; at < Text.size();) {
+        const std::size_t length = Utf8CharLength(Text.substr(at));
+        if (length == 0) {
+            char message[64];
+            std::snprintf(message, sizeof message, "the text is not UTF-8: byte 0x%02X at offset %zu",
+                          unsigned(static_cast<unsigned char>(Text[at])), at);
+            throw EConvertError(message);
+        }
+        at += length;
+    }
+}
+
+std::u32string DecodeText(std::string_view Text, std::string_view Face, TTextEncoding Encoding) {
     std::u32string characters;
     characters.reserve(Text.size());
+    if (Face != "Symbol" && Encoding == TTextEncoding::Utf8) {
+        CheckUtf8(Text);
+        while (!Text.empty()) {
+            const std::size_t length = Utf8CharLength(Text);
+            // The lead byte's payload bits, then six bits from each continuation byte.
+            static constexpr unsigned char LeadMask[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
+            char32_t c = static_cast<unsigned char>(Text[0]) & LeadMask[length];
+            for (std::size_t i = 1; i < length; ++i) c = c << 6 | (static_cast<unsigned char>(Text[i]) & 0x3F);
+            characters += c;
+            Text.remove_prefix(length);
+        }
+        return characters;
+    }
     for (char byte : Text) {
         const auto value = static_cast<unsigned char>(byte);
         characters += Face == "Symbol" ? SymbolEncodingToUnicode(value) : char32_t(value);
@@ -126,9 +190,9 @@ std::u32string DecodeText(std::string_view Text, std::string_view Face) {
     return characters;
 }
 
-std::string TextToUtf8(std::string_view Text, std::string_view Face) {
+std::string TextToUtf8(std::string_view Text, std::string_view Face, TTextEncoding Encoding) {
     std::string out;
-    for (char32_t c : DecodeText(Text, Face))
+    for (char32_t c : DecodeText(Text, Face, Encoding))
         if (c != 0) AppendUtf8(out, c);
     return out;
 }

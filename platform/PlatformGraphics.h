@@ -4,19 +4,23 @@
 /// application implements one over its own toolkit, tests use one that records, and
 /// kornum_canvas gives one over Cairo that writes SVG, PNG and PDF.
 ///
-/// Text is bytes, one character each. A canvas whose font face is "Symbol" reads each
-/// byte through the Adobe Symbol encoding (0xB9 is U+2260 not-equal, `p` is U+03C0 pi);
-/// with any other face a byte is the Latin-1 character of its value.
+/// Text is bytes. A canvas whose font face is "Symbol" reads each byte through the Adobe
+/// Symbol encoding (0xB9 is U+2260 not-equal, `p` is U+03C0 pi); with any other face it
+/// reads the bytes as its `TCanvas::TextEncoding` says: by default one character per
+/// byte, the Latin-1 character of its value, or, when set to `TTextEncoding::Utf8`, whole
+/// UTF-8 sequences.
 #pragma once
 
 #include <kornum/KornumExport.h>
 #include <kornum/PlatformClasses.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-namespace KORNUM_API Platform {
+KORNUM_EXPORT_BEGIN
+namespace Platform {
 
 /// A rectangle in pixels: x grows to the right, y downwards, and Right and Bottom lie
 /// just outside it, so that Width() = Right - Left.
@@ -157,15 +161,38 @@ inline constexpr std::uint32_t CalcRect = 0x0400;  ///< Measure only: Rect recei
 inline constexpr std::uint32_t NoPrefix = 0x0800;  ///< `&` is drawn, not taken as an accelerator mark.
 }  // namespace TextFlags
 
+/// How a canvas reads the bytes of a text drawn in any face but "Symbol" (a "Symbol"
+/// face always reads one byte per character, through the Adobe Symbol encoding).
+enum class TTextEncoding : std::uint8_t {
+    Latin1,  ///< One character per byte: the Latin-1 character of its value. The default.
+    Utf8     ///< UTF-8: a character is one whole sequence of one to four bytes.
+};
+
 /// The Unicode character of a byte of the Adobe Symbol encoding; 0 for a byte that the
 /// encoding leaves undefined or a control code.
 char32_t SymbolEncodingToUnicode(unsigned char Byte) noexcept;
 
-/// The characters that the bytes of `Text` stand for in a font of the face `Face`: one
-/// character per byte, 0 where a Symbol byte is undefined.
-std::u32string DecodeText(std::string_view Text, std::string_view Face);
+/// The length in bytes (1 to 4) of the UTF-8 character that Text begins with; 0 when Text
+/// is empty or does not begin with a well-formed sequence (a continuation byte, a
+/// sequence cut short, an overlong form, a surrogate or a code point beyond U+10FFFF).
+std::size_t Utf8CharLength(std::string_view Text) noexcept;
+/// True when Text is well-formed UTF-8 from end to end; the empty text is.
+bool IsUtf8(std::string_view Text) noexcept;
+/// Raises `Platform::EConvertError` when Text is not well-formed UTF-8; the message gives
+/// the value and offset of the first byte that does not belong to a character ("the text
+/// is not UTF-8: byte 0xE9 at offset 3"), so that it never carries the bad bytes.
+void CheckUtf8(std::string_view Text);
+
+/// The characters that the bytes of `Text` stand for in a font of the face `Face`: for
+/// the face "Symbol" one character per byte, 0 where the byte is undefined; for any other
+/// face one character per byte with `TTextEncoding::Latin1` (the default), or one per
+/// UTF-8 sequence with `TTextEncoding::Utf8`, where text that is not UTF-8 raises
+/// `Platform::EConvertError` as `CheckUtf8` does.
+std::u32string DecodeText(std::string_view Text, std::string_view Face,
+                          TTextEncoding Encoding = TTextEncoding::Latin1);
 /// The same characters as `DecodeText` in UTF-8, without the zeros.
-std::string TextToUtf8(std::string_view Text, std::string_view Face);
+std::string TextToUtf8(std::string_view Text, std::string_view Face,
+                       TTextEncoding Encoding = TTextEncoding::Latin1);
 
 /// A surface to draw text on. The canvas's Font is what the next call draws with.
 /// Implementations provide `TextWidth` and `DrawText`, and may override `Resolve`.
@@ -178,6 +205,15 @@ public:
     TFont& Font() noexcept { return font_; }
     /// The font the next call draws with.
     const TFont& Font() const noexcept { return font_; }
+
+    /// How the canvas reads text in any face but "Symbol": `TTextEncoding::Latin1`, one
+    /// character per byte, unless set otherwise. A control that draws its text one
+    /// character at a time reads it to find where each character ends.
+    TTextEncoding TextEncoding() const noexcept { return encoding_; }
+    /// Sets how the canvas reads text in any face but "Symbol". With
+    /// `TTextEncoding::Utf8`, `TextWidth` and `DrawText` read UTF-8, and the library's
+    /// canvases raise `Platform::EConvertError` for text that is not UTF-8.
+    void SetTextEncoding(TTextEncoding Value) noexcept { encoding_ = Value; }
 
     /// The width of the text in the current font, in pixels.
     virtual std::int32_t TextWidth(std::string_view Text) = 0;
@@ -194,6 +230,8 @@ public:
 
 private:
     TFont font_;
+    TTextEncoding encoding_ = TTextEncoding::Latin1;
 };
 
 }  // namespace Platform
+KORNUM_EXPORT_END

@@ -10,7 +10,7 @@ bash scripts/install-deps.sh --fuzz
 seconds=${1:-30}
 shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(str2float describe_reader text_form matrix_reader dist_arguments random_arguments)
+[ ${#targets[@]} -gt 0 ] || targets=(str2float describe_reader text_form matrix_reader dist_arguments random_arguments label_caption)
 flags="-fsanitize=address,undefined -fno-sanitize-recover=all -fsanitize=fuzzer-no-link -fno-omit-frame-pointer"
 cmake -S . -B build-fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_EXE_LINKER_FLAGS="-fsanitize=address,undefined" \

@@ -38,11 +38,13 @@ public:
 };
 
 // What the label draws for a caption on a 200 x 20 label, as (text, face) pairs.
-std::vector<std::pair<std::string, std::string>> Drawn(const std::string& caption) {
+std::vector<std::pair<std::string, std::string>> Drawn(const std::string& caption,
+                                                       Platform::TTextEncoding encoding = Platform::TTextEncoding::Latin1) {
     TKorMathLabel label(nullptr);
     label.SetCaption(caption);
     label.SetBounds(0, 0, 200, 20);
     RecordingCanvas canvas;
+    canvas.SetTextEncoding(encoding);
     label.Paint(canvas);
     std::vector<std::pair<std::string, std::string>> drawn;
     for (const Draw& d : canvas.draws) drawn.emplace_back(d.text, d.face);
@@ -73,6 +75,49 @@ TEST(MathLabel, EveryRowOfTheEscapeTable) {
     EXPECT_EQ(Platform::DecodeText("\xB9pW\xDA", "Symbol"), (std::u32string{0x2260, 0x03C0, 0x03A9, 0x2228}));
     EXPECT_EQ(Platform::TextToUtf8("\xA5\xCE", "Symbol"), "\u221E\u2208");
     EXPECT_EQ(Platform::TextToUtf8("p\xE9", "DejaVu Sans"), "p\u00E9");  // other faces: Latin-1
+}
+
+TEST(MathLabel, OnAUtf8CanvasACharacterIsAWholeSequence) {
+    constexpr auto utf8 = Platform::TTextEncoding::Utf8;
+    // mu (2 bytes), e-acute (2), the euro sign (3) and a musical G clef (4 bytes) are one
+    // draw each; a caret before a long character gives the blank of "any other character".
+    EXPECT_EQ(Drawn("\u00B5c\u00E9\u20AC\U0001D11E", utf8),
+              (Pairs{{"\u00B5", Text}, {"c", Text}, {"\u00E9", Text}, {"\u20AC", Text}, {"\U0001D11E", Text}}));
+    EXPECT_EQ(Drawn("^\u00E9x^p^^\u00E9", utf8), (Pairs{{" ", Symbol}, {"x", Text}, {"p", Symbol}, {"^", Text}, {"\u00E9", Text}}));
+    // The same bytes on a Latin-1 canvas are one character each, as always.
+    EXPECT_EQ(Drawn("^\u00E9", Platform::TTextEncoding::Latin1), (Pairs{{" ", Symbol}, {"\xA9", Text}}));
+
+    // A caption that is not UTF-8 draws nothing and says where it goes wrong.
+    TKorMathLabel label(nullptr);
+    label.SetCaption("ab\xC3(");
+    RecordingCanvas canvas;
+    canvas.SetTextEncoding(utf8);
+    EXPECT_TRUE(KornumTest::Raises<Platform::EConvertError>([&] { label.Paint(canvas); },
+                                                            "the text is not UTF-8: byte 0xC3 at offset 2"));
+    EXPECT_TRUE(canvas.draws.empty());
+}
+
+TEST(MathLabel, Utf8SequencesAndTheirDecoding) {
+    using Platform::Utf8CharLength;
+    // Shortest and longest of each length, from the Unicode standard's table of well-formed
+    // byte sequences.
+    for (const char* valid : {"\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80",
+                              "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"})
+        EXPECT_EQ(Utf8CharLength(valid), std::string_view(valid).size()) << valid;
+    // Continuation and unused lead bytes, overlong forms, surrogates, beyond U+10FFFF, cut short.
+    for (const char* invalid : {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
+                                "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xFF", "\xE2\x82", "\xC2" "A", ""})
+        EXPECT_EQ(Utf8CharLength(invalid), 0u) << invalid;
+    EXPECT_TRUE(Platform::IsUtf8(""));
+    EXPECT_TRUE(Platform::IsUtf8("caf\u00E9 \U0001F600"));
+    EXPECT_FALSE(Platform::IsUtf8("caf\xE9"));
+
+    constexpr auto utf8 = Platform::TTextEncoding::Utf8;
+    EXPECT_EQ(Platform::DecodeText("\u00B5\u20AC\U0001D11E", "DejaVu Sans", utf8), (std::u32string{0xB5, 0x20AC, 0x1D11E}));
+    // A Symbol face reads bytes through its own encoding whatever the canvas reads.
+    EXPECT_EQ(Platform::TextToUtf8("\xB9p", "Symbol", utf8), "\u2260\u03C0");
+    EXPECT_TRUE(KornumTest::Raises<Platform::EConvertError>([] { Platform::DecodeText("ok\xFF", "Serif", utf8); },
+                                                            "the text is not UTF-8: byte 0xFF at offset 2"));
 }
 
 TEST(MathLabel, DrawsOneCharacterAtATimeUntilTheRightEdge) {
