@@ -69,8 +69,8 @@ Float Random_Exponential();
 /// Tsang's squeeze method for s > 1, a switching method (a power density left of 1 - s, an
 /// exponential tail right of it) for s < 1, and exactly `Random_Exponential` from the same
 /// source for s = 1. The small-shape method returns 0 for the rare draws whose value would
-/// lie below `KorVSmall`. Failures, in order: s <= 0 raises `Platform::EMathError`
-/// (`Kornum_RS_Math::rsInvalidShape`); 0 < s below `KorVSmall` raises
+/// lie below `KorVSmall`. Failures, in order: s <= 0, NaN or infinite raises
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidShape`); 0 < s below `KorVSmall` raises
 /// `Platform::EMathError` (`Kornum_RS_Math::rsShapeTooSmall`).
 Float Random_Gamma(Float s, TKorUniformFunc RandomGen);
 Float Random_Gamma(Float s);
@@ -91,8 +91,8 @@ Float Random_ChiSq(Integer ndf);
 
 /// A Weibull variate of shape a. It is a `Random_Exponential` variate E raised to the power
 /// 1 / a. Only the magnitude of a is tested, so a negative a is accepted and gives E^(1/a)
-/// with a negative exponent. Failures: |a| <= `KorVSmall` raises `Platform::EMathError`
-/// (`Kornum_RS_Math::rsInvalidValue`).
+/// with a negative exponent. Failures: |a| <= `KorVSmall`, a NaN or an infinite a raises
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`).
 Float Random_Weibull(Float a, TKorUniformFunc RandomGen);
 Float Random_Weibull(Float a);
 /// @}
@@ -103,8 +103,10 @@ Float Random_Weibull(Float a);
 /// A beta(aa, bb) variate on [0, 1]. Cheng's log-logistic method (its algorithms BB for
 /// both parameters above 1 and BC otherwise), computed with the larger parameter first and
 /// mirrored (1 - x) when the two were exchanged: Random_Beta(a, b) and Random_Beta(b, a)
-/// give complementary values for the same uniforms. Failures: aa <= 0 or bb <= 0 raises
-/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`).
+/// give complementary values for the same uniforms. Failures: aa <= 0 or bb <= 0 (NaN
+/// included) raises `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`), and so do
+/// shapes the method cannot resolve: the smaller below 1e-4900, the larger above 1e4900
+/// (infinity included) or a ratio of the two above 1e4900.
 Float Random_Beta(Float aa, Float bb, TKorUniformFunc RandomGen);
 Float Random_Beta(Float aa, Float bb);
 /// @}
@@ -126,9 +128,11 @@ Float Random_T(Integer m);
 
 /// A generalised inverse Gaussian variate, density proportional to x^(h-1) exp(-b (x + 1/x)
 /// / 2). A ratio-of-uniforms method around the mode. Failures, in order, each raising
-/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`): h < 0; b <= 0; h > b
-/// sqrt(1.7E308) / 4 (b too small for h); a set-up bound below `KorVSmall` because b is too
-/// small; the method's scale below `KorVSmall` because h is too large.
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`): h < 0 or NaN; b <= 0 or NaN;
+/// h or b above 1e14 (infinity included: the expected number of trials grows with them);
+/// (h + 1)^5 > 1e32 b^4 (b so small against h that the mode's set-up cancels); h > b
+/// sqrt(1.7E308) / 4; a set-up bound below `KorVSmall` because b is too small; the method's
+/// scale below `KorVSmall` or not finite.
 Float Random_Inv_Gauss(Float h, Float b, TKorUniformFunc RandomGen);
 Float Random_Inv_Gauss(Float h, Float b);
 /// @}
@@ -139,7 +143,7 @@ Float Random_Inv_Gauss(Float h, Float b);
 /// A von Mises angle on [-pi, pi] with mean 0 and concentration k. Dagpunar's comparison of
 /// random numbers: for k > 0.5 the half circle is cut into trunc(2k + 1) pieces weighted by
 /// six-point Gauss-Legendre integrals of exp(k cos x); for k <= 0.5 it is one piece.
-/// Failures, in order: k < 0, then trunc(2k + 1) > 20 (k >= 10), each raising
+/// Failures, in order: k < 0 or NaN, then k >= 10 (infinity included), each raising
 /// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`).
 Float Random_von_Mises(Float k, TKorUniformFunc RandomGen);
 Float Random_von_Mises(Float k);
@@ -160,9 +164,9 @@ Float Random_Cauchy();
 /// A binomial variate: successes in n trials of success probability p. Kemp's modal
 /// inversion: from the mode trunc((n + 1) p), one step down then one step up, in turn; a
 /// walk that leaves 0 .. n on both sides (rounding) starts again from a fresh uniform.
-/// Cheap to set up, with a cost that grows with the spread. No argument is checked: n must
-/// be at least 0 and p strictly between 0 and 1 (with p = 0 or 1 the probabilities are NaN
-/// and the call never returns).
+/// Cheap to set up, with a cost that grows with the spread. p = 0 returns 0 and p = 1
+/// returns n, without a draw (the method's odds would be 0 or infinite). Failures: n < 0,
+/// p outside [0, 1] or NaN raise `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`).
 Int64 Random_Binomial1(Integer n, Float p, TKorUniformFunc RandomGen);
 Int64 Random_Binomial1(Integer n, Float p);
 /// @}
@@ -173,7 +177,9 @@ Int64 Random_Binomial1(Integer n, Float p);
 /// A binomial variate: successes in n trials of success probability pp. The BTPE method of
 /// Kachitvichyanukul and Schmeiser when n min(pp, 1 - pp) > 30, inversion otherwise
 /// (restarted with a fresh uniform past 110 successes). It works with p = min(pp, 1 - pp)
-/// and returns n minus the variate when pp > 0.5. No argument is checked.
+/// and returns n minus the variate when pp > 0.5; pp = 0 gives 0 and pp = 1 gives n (after
+/// one draw, as the method does). Failures: n < 0, pp outside [0, 1] or NaN raise
+/// `Platform::EMathError` (`Kornum_RS_Math::rsInvalidValue`).
 Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen);
 Int64 Random_Binomial2(Int64 n, Float pp);
 /// @}
@@ -184,7 +190,8 @@ Int64 Random_Binomial2(Int64 n, Float pp);
 /// A negative binomial variate: failures before the sk-th success, success probability p
 /// (sk need not be whole). Unstored inversion; for p > 0.7 the whole part of sk is drawn as
 /// a sum of geometric variates first. Failures, each raising `Platform::EMathError`
-/// (`Kornum_RS_Math::rsInvalidValue`): sk <= 0, p <= 0 or p >= 1; then (1 - p)^s' below
+/// (`Kornum_RS_Math::rsInvalidValue`): sk <= 0, p <= 0 or p >= 1 (NaN included); a mean
+/// max(sk, 1) p / (1 - p) above 1e7 (the walk's length grows with it); then (1 - p)^s' below
 /// `KorVSmall` for the remaining power s' (sk itself when p <= 0.7), that is sk too large
 /// for this p (for p = 0.5, sk above about 1074); this second check comes after the
 /// geometric draws, but can only fire when p <= 0.7, where there are none.
@@ -197,8 +204,10 @@ Int64 Random_Neg_Binomial(Float sk, Float p);
 
 /// A Poisson variate of mean mu. Ahrens and Dieter's method PD (a normal sample with
 /// squeeze and exponential rejection) for mu > 10, inversion through a cumulative table of
-/// 35 entries, built as far as each draw needs, otherwise. mu is read only. No argument is
-/// checked: a mean of 0 or below returns 0, and a NaN mean never returns.
+/// 35 entries, built as far as each draw needs, otherwise. mu is read only; a mean of 0
+/// returns 0. Failures: mu < 0, NaN, or above 9.2e18 (infinity included: the method's
+/// candidates would leave the range of Int64) raise `Platform::EMathError`
+/// (`Kornum_RS_Math::rsInvalidValue`).
 Int64 Random_Poisson(const Float& mu, TKorUniformFunc RandomGen);
 Int64 Random_Poisson(const Float& mu);
 /// @}
@@ -216,8 +225,9 @@ Int64 Random_Poisson(const Float& mu);
 ///
 /// Failures, in order: an empty H raises `Platform::EMathError`
 /// (`Kornum_RS_Math::rsVectorEmpty`); a D shorter than n (n + 1) / 2 raises
-/// `Platform::EMathError` (`Kornum_RS_Math::rsVectorTooSmall`); both before anything is
-/// written. A covariance that is not positive semi-definite is not an exception: Ier
+/// `Platform::EMathError` (`Kornum_RS_Math::rsVectorTooSmall`); a NaN or infinite element
+/// among H's n and D's first n (n + 1) / 2 raises `Platform::EMathError`
+/// (`Kornum_RS_Math::rsInvalidValue`); all before anything is written. A covariance that is not positive semi-definite is not an exception: Ier
 /// becomes 1, X is left as it was, no uniform is drawn, and F holds the partial factor.
 /// Otherwise Ier is 0.
 void Random_MVNorm(const TKorFloatVector& H, const TKorFloatVector& D, TKorFloatVector& F, TKorFloatVector& X,

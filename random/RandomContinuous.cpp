@@ -15,6 +15,24 @@ using Kornum_RS_Math::rsShapeTooSmall;
 namespace detail {
 namespace {
 
+// The extent of the beta method's parameters: the smaller at least BetaSmallest, the
+// larger, and the larger over the smaller, at most BetaLargest.
+constexpr Float BetaSmallest = 1e-4900L;
+constexpr Float BetaLargest = 1e4900L;
+
+// The largest h and b of the inverse Gaussian method. A trial accepts with probability
+// about 1.25 ((h - 1)^2 + b^2)^(-1/4): at this bound a variate takes some 10^7 trials,
+// about a second; beyond it the cost grows without end.
+constexpr Float InvGaussLargest = 1e14L;
+
+// The inverse Gaussian set-up forms ym = (sqrt((h + 1)^2 + b^2) - (h + 1)) / b, which
+// loses digits to cancellation when b is small beside h + 1: its relative error reaches
+// about 3 ((h + 1) / b)^2 2^-64, and the bound a, taken at 1/ym, then falls short by
+// about (h + 1) / 4 times its square, cutting off part of the distribution (and, past
+// e^-20, making the trials all but never accept). While (h + 1)^5 <= 1e32 b^4, that is
+// b >= 1e-8 (h + 1)^(5/4), the shortfall stays below 1e-5 and a finite.
+constexpr Float InvGaussCancellation = 1e32L;
+
 // Marsaglia and Tsang's squeeze method, for shapes above 1.
 Float GammaLargeShape(Float s, TKorUniformFunc RandomGen) {
     Require(s > 1, rsInvalidShape);
@@ -80,7 +98,8 @@ Float VonMisesIntegral(Float k, Float a, Float b) {
 }  // namespace detail
 
 Float Random_Gamma(Float s, TKorUniformFunc RandomGen) {
-    Require(s > 0, rsInvalidShape);
+    // NaN fails too; an infinite shape would make the large-shape method return infinity.
+    Require(s > 0 && std::isfinite(s), rsInvalidShape);
     if (s > 1) return GammaLargeShape(s, RandomGen);
     if (s < 1) return GammaSmallShape(s, RandomGen);
     return Random_Exponential(RandomGen);
@@ -91,18 +110,21 @@ Float Random_ChiSq(Integer ndf, TKorUniformFunc RandomGen) { return 2 * Random_G
 // Only the magnitude of a is tested: a negative a is accepted, E^(1/a) then having a
 // negative exponent.
 Float Random_Weibull(Float a, TKorUniformFunc RandomGen) {
-    Require(fabs(a) > KorVSmall, rsInvalidValue);
+    // NaN fails too; an infinite a would return the constant E^0 = 1.
+    Require(fabs(a) > KorVSmall && std::isfinite(a), rsInvalidValue);
     return XtoY(Random_Exponential(RandomGen), 1 / a);
 }
 
 // Cheng's log-logistic method (algorithms BB and BC), on a >= b with the result
 // mirrored when the parameters were exchanged.
 Float Random_Beta(Float aa, Float bb, TKorUniformFunc RandomGen) {
-    Require(aa > 0 && bb > 0, rsInvalidValue);
+    Require(aa > 0 && bb > 0, rsInvalidValue);  // NaN fails too
     Float a = aa, b = bb;
     const bool swap = b > a;
     if (swap) std::swap(a, b);
     const Float d = a / b, f = a + b;
+    // Infinity too: beyond these d, f or a logit over b (up to 11400 / b) overflows to NaN.
+    Require(b >= BetaSmallest && a <= BetaLargest && d <= BetaLargest, rsInvalidValue);
     Float h, t;
     if (b > 1) {
         h = sqrt((2 * a * b - f) / (f - 2));
@@ -170,8 +192,13 @@ Float Random_T(Integer m, TKorUniformFunc RandomGen) {
 
 // A ratio-of-uniforms method for the density x^(h-1) exp(-b (x + 1/x) / 2).
 Float Random_Inv_Gauss(Float h, Float b, TKorUniformFunc RandomGen) {
-    Require(!(h < 0), rsInvalidValue);
+    Require(h >= 0, rsInvalidValue);  // NaN too: it passes every later test, no trial accepts
     Require(b > 0, rsInvalidValue);
+    // Beyond these a variate takes over 10^7 trials; an infinite b makes the set-up NaN.
+    Require(h <= InvGaussLargest && b <= InvGaussLargest, rsInvalidValue);
+    // b too small beside h: the cancellation in ym would cut a short, even to 0 or NaN.
+    const Float h1 = h + 1;
+    Require(h1 * h1 * h1 * h1 * h1 <= InvGaussCancellation * (b * b) * (b * b), rsInvalidValue);
     Require(!(h > 0.25L * b * sqrt(VLarge)), rsInvalidValue);  // h : b too small
     Float e = b * b;
     Float d = h + 1;
@@ -184,7 +211,8 @@ Float Random_Inv_Gauss(Float h, Float b, TKorUniformFunc RandomGen) {
     const Float r = xm + 1 / xm;
     const Float w = xm * ym;
     const Float a = XtoY(w, -0.5L * h) * sqrt(xm / ym) * exp(-e * (r - ym - 1 / ym));
-    Require(!(a < KorVSmall), rsInvalidValue);  // h too large
+    // h too large, or a set-up that overflowed (infinity, NaN): no trial would accept.
+    Require(a >= KorVSmall && std::isfinite(a), rsInvalidValue);
     const Float c = -d * log(xm) - e * r;
     for (;;) {
         Float r1;
@@ -201,9 +229,10 @@ Float Random_Inv_Gauss(Float h, Float b, TKorUniformFunc RandomGen) {
 // Dagpunar's comparison of random numbers (VMD): the half circle cut into nk pieces
 // chosen by their probability, then a Forsythe comparison within the piece.
 Float Random_von_Mises(Float k, TKorUniformFunc RandomGen) {
-    Require(!(k < 0), rsInvalidValue);
-    const Integer nk = Integer(k + k + 1);
-    Require(nk <= 20, rsInvalidValue);
+    // At most 20 pieces; NaN and infinity fail here, before the integer conversion below.
+    Require(k >= 0 && k + k < 20, rsInvalidValue);
+    // trunc(2k) + 1, not trunc(2k + 1): 2k + 1 rounds to 3 for k = 1 - 2^-64 (a NaN piece).
+    const Integer nk = Integer(k + k) + 1;
     std::array<Float, 22> theta{}, p{};
     if (k > 0.5L) {
         Float total = 0;

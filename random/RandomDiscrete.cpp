@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <limits>
 
 namespace KornumRandom {
 
@@ -12,6 +13,21 @@ using Kornum_RS_Math::rsInvalidValue;
 
 namespace detail {
 namespace {
+
+// The largest mean of the negative binomial method (the odds p / (1 - p) when sk < 1).
+// Its cost is one geometric draw per unit of sk and one inversion step per unit of the
+// remaining part's mean, so at this bound a variate takes up to some 10^7 steps, well
+// under a second; beyond it the cost grows without end, and p near 1 would make a
+// geometric draw overflow Int64.
+constexpr Float NegBinomialLargest = 1e7L;
+
+// The largest Poisson mean. A candidate of method PD is at most mu + 746.2 sqrt(mu) (1.8
+// plus the largest exponential variate, -ln 5E-324, standard deviations above the mean);
+// up to this bound that fits Int64, beyond it the integer conversion would overflow.
+constexpr Float PoissonLargest = 9.2e18L;
+
+// The smallest normal Float: below it products round to a standstill or to 0.
+constexpr Float SmallestNormal = std::numeric_limits<Float>::min();
 
 // The binomial probability of r successes in n trials, through log-gammas.
 Float BinomialProbability(Integer n, Int64 r, Float p) {
@@ -30,6 +46,11 @@ Float StirlingTerm(Float y) {
 
 // Kemp's modal inversion: from the mode, one step down then one step up, in turn.
 Int64 Random_Binomial1(Integer n, Float p, TKorUniformFunc RandomGen) {
+    // NaN fails too: outside these the walk never finds u, restarting for ever.
+    Require(n >= 0 && p >= 0 && p <= 1, rsInvalidValue);
+    // Exact, without a draw: the walk's odds and logarithms would give NaN, restarting for ever.
+    if (p == 0) return 0;
+    if (p == 1) return n;
     const Int64 r0 = Trunc((Float(n) + 1) * p);
     const Float pr = BinomialProbability(n, r0, p);
     const Float odds = p / (1 - p);
@@ -61,6 +82,8 @@ Int64 Random_Binomial1(Integer n, Float p, TKorUniformFunc RandomGen) {
 // BTPE (Kachitvichyanukul and Schmeiser) above a mean of 30, inversion below; on
 // p = min(pp, 1 - pp), mirrored for pp > 0.5.
 Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen) {
+    // NaN too: outside these it returns 0, n or a negative count (pp = 0 and 1 are exact).
+    Require(n >= 0 && pp >= 0 && pp <= 1, rsInvalidValue);
     const Float p = MinXY(pp, 1 - pp);
     const Float q = 1 - p;
     const Float xnp = Float(n) * p;
@@ -78,6 +101,7 @@ Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen) {
         al = (xr - ffm) / (xr * q);
         const Float xlr = al * (1 + 0.5L * al);
         const Float p2 = p1 * (1 + c + c), p3 = p2 + c / xll, p4 = p3 + c / xlr;
+        const Float nPlus1 = Float(n) + 1;  // exact
         for (;;) {
             const Float u = RandomGen() * p4;
             Float v = RandomGen();
@@ -91,18 +115,21 @@ Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen) {
                 if (v > 1 || v <= 0) continue;
                 ix = Trunc(x);
             } else if (u <= p3) {  // left tail
-                ix = Trunc(xl + log(v) / xll);
-                if (ix < 0) continue;
+                // Tested before truncation, where ix < 0 is y <= -1: v = 0 gives y = -inf.
+                const Float y = xl + log(v) / xll;
+                if (y <= -1) continue;
+                ix = Trunc(y);
                 v = v * (u - p2) * xll;
             } else {  // right tail
-                ix = Trunc(xr - log(v) / xlr);
-                if (ix > n) continue;
+                const Float y = xr - log(v) / xlr;  // likewise ix > n is y >= n + 1
+                if (y >= nPlus1) continue;
+                ix = Trunc(y);
                 v = v * (u - p3) * xlr;
             }
             const Float k = Float(std::llabs(ix - m));
             if (k <= 20 || k >= xnpq / 2 - 1) {  // explicit evaluation
                 Float f = 1;
-                const Float r = p / q, g = Float(n + 1) * r;
+                const Float r = p / q, g = (Float(n) + 1) * r;  // n + 1 in Int64 could overflow
                 for (Int64 i = m + 1; i <= ix; ++i) f = f * (g / Float(i) - r);
                 for (Int64 i = ix + 1; i <= m; ++i) f = f / (g / Float(i) - r);
                 if (v <= f) break;
@@ -113,7 +140,7 @@ Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen) {
             const Float alv = log(v);
             if (alv < ynorm - amaxp) break;
             if (alv > ynorm + amaxp) continue;
-            const Float x1 = Float(ix + 1), f1 = fm + 1, z = Float(n + 1) - fm, w = Float(n - ix + 1);
+            const Float x1 = Float(ix + 1), f1 = fm + 1, z = nPlus1 - fm, w = Float(n - ix) + 1;
             if (alv - (xm * log(f1 / x1) + (Float(n - m) + 0.5L) * log(z / w) + Float(ix - m) * log(w * p / (x1 * q)) +
                        StirlingTerm(f1) + StirlingTerm(z) + StirlingTerm(x1) + StirlingTerm(w)) >
                 0)
@@ -122,7 +149,7 @@ Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen) {
         }
     } else {  // inversion
         const Float qn = XtoY(q, Float(n));
-        const Float r = p / q, g = r * Float(n + 1);
+        const Float r = p / q, g = r * (Float(n) + 1);
         for (bool accepted = false; !accepted;) {
             ix = 0;
             Float f = qn;
@@ -144,8 +171,10 @@ Int64 Random_Binomial2(Int64 n, Float pp, TKorUniformFunc RandomGen) {
 
 // Unstored inversion, with geometric variates for the whole part of sk when p > 0.7.
 Int64 Random_Neg_Binomial(Float sk, Float p, TKorUniformFunc RandomGen) {
-    Require(sk > 0 && p > 0 && p < 1, rsInvalidValue);
+    Require(sk > 0 && p > 0 && p < 1, rsInvalidValue);  // NaN fails too
     const Float q = 1 - p;
+    // Beyond this a variate takes over 10^7 steps; an infinite sk would overflow Trunc(st).
+    Require(MaxXY(sk, Float(1)) * p / q <= NegBinomialLargest, rsInvalidValue);
     Float x = 0, st = sk;
     if (p > 0.7L) {
         const Float v = 1 / log(p);
@@ -159,17 +188,27 @@ Int64 Random_Neg_Binomial(Float sk, Float p, TKorUniformFunc RandomGen) {
         }
         st -= Float(k);
     }
-    Float s = 0;
     const Float uln = -log(KorVSmall);
     Require(!(st > -uln / log(q)), rsInvalidValue);  // p too large for this sk
-    Float y = XtoY(q, st), g = st;
-    Float r = RandomGen();
-    while (y <= r) {
-        r -= y;
-        s += 1;
-        y = y * p * g / s;
-        g += 1;
-    }
+    // A walk that can no longer use up r (r above the rounded sum of the terms) would step
+    // for ever, the terms rounding to a standstill or to 0: it starts afresh from a new
+    // uniform once they leave the normal range (the first is at least about KorVSmall) or,
+    // when st <= 1, where they fall from the first by ratios p (st + s - 1) / s <= p, once
+    // all that is left of them, at most y / q, is below r.
+    const Float fall = st <= 1 ? q : 0;
+    Float s, y, r;
+    do {
+        s = 0;
+        y = XtoY(q, st);
+        Float g = st;
+        r = RandomGen();
+        while (y <= r && y >= SmallestNormal && y >= r * fall) {
+            r -= y;
+            s += 1;
+            y = y * p * g / s;
+            g += 1;
+        }
+    } while (y <= r);
     return Trunc(x + s + 0.5L);
 }
 
@@ -273,8 +312,23 @@ Int64 PoissonTable(Float mu, TKorUniformFunc RandomGen) {
 
 // Ahrens and Dieter's method PD above a mean of 10, table inversion otherwise.
 Int64 Random_Poisson(const Float& mu, TKorUniformFunc RandomGen) {
+    // NaN too (the table stays NaN for ever); below 0 it returns 0; beyond, Int64 overflows.
+    Require(mu >= 0 && mu <= PoissonLargest, rsInvalidValue);
     return mu > 10 ? PoissonPD(mu, RandomGen) : PoissonTable(mu, RandomGen);
 }
+
+namespace detail {
+namespace {
+
+// Whether the first count elements of V are all finite.
+bool AllFinite(const TKorFloatVector& V, Int64 count) {
+    for (Integer i = 0; i < Integer(count); ++i)
+        if (!std::isfinite(Float(V[i]))) return false;
+    return true;
+}
+
+}  // namespace
+}  // namespace detail
 
 // The Cholesky factor of the covariance, packed column by column, then the means plus
 // the factor times a vector of normal variates. Positions are 1-based as in the packed
@@ -284,6 +338,8 @@ void Random_MVNorm(const TKorFloatVector& H, const TKorFloatVector& D, TKorFloat
     const Int64 n = H.Length();
     Require(n > 0, Kornum_RS_Math::rsVectorEmpty);
     Require(n * (n + 1) / 2 <= D.Length(), Kornum_RS_Math::rsVectorTooSmall);
+    // A NaN or infinite mean or covariance would come out as a NaN or infinite variate.
+    Require(AllFinite(H, n) && AllFinite(D, n * (n + 1) / 2), rsInvalidValue);
     const auto d = [&D](Int64 position) { return Float(D[Integer(position - 1)]); };
     const auto f = [&F](Int64 position) -> PackedFloat& { return F[Integer(position - 1)]; };
     const Int64 nn = 2 * n;

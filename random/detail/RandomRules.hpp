@@ -21,7 +21,8 @@ inline constexpr Float VLarge = 1.7E308L;
 
 using Platform::Require;
 
-// Truncation toward zero to an integer.
+// Truncation toward zero to an integer. x must lie within Int64 (a conversion outside it
+// is undefined): each generator bounds its parameters so that its values do.
 inline Int64 Trunc(Float x) noexcept { return Int64(x); }
 
 }  // namespace KornumRandom::detail
