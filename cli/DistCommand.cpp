@@ -7,6 +7,7 @@
 #include <kornum/KornumStatistics.h>
 #include <kornum/PlatformExceptions.h>
 
+#include <cmath>
 #include <functional>
 #include <limits>
 #include <map>
@@ -24,11 +25,13 @@ struct DistSettings {
 CommandTable DistTable(DistSettings& s) {
     return {
         "dist",
-        "Usage: kornum dist FAMILY less|greater|pdf|inv VALUE PARAMETERS... [--decimals N]\n"
+        "Usage: kornum dist FAMILY less|greater|pdf|inv|isf VALUE PARAMETERS... [--decimals N]\n"
         "       kornum dist FAMILY table XLO XHI N PARAMETERS... [--decimals N]",
-        "less and greater are P(X <= VALUE) and P(X > VALUE), each computed directly (small\n"
-        "upper tails keep their digits); pdf is the density (or the probability of VALUE for\n"
-        "the discrete families); inv is the VALUE with P(X <= VALUE) = P. table prints N\n"
+        "less and greater are P(X <= VALUE) and P(X > VALUE), each computed directly, so that\n"
+        "small tails on either side keep their digits; pdf is the density (or the probability\n"
+        "of VALUE for the discrete families); inv is the x with P(X <= x) = P, and isf the x\n"
+        "with P(X > x) = Q, computed from the upper tail (for the discrete families the\n"
+        "smallest k with P(X <= k) >= P, or with P(X > k) <= Q). table prints N\n"
         "equally spaced points from XLO to XHI and the density at each, two columns; for the\n"
         "discrete families it prints k and P(X = k) for the whole k from XLO to XHI (N is\n"
         "ignored). Results carry every digit a long double needs to read back the same.\n"
@@ -72,7 +75,7 @@ struct Family {
     std::vector<Parameter> parameters;
     std::size_t optional;
     bool discrete;
-    Function less, greater, pdf, inv;
+    Function less, greater, pdf, inv, isf;
     std::function<void(Float, Float, const Values&)> checkTable;
 };
 
@@ -97,28 +100,33 @@ const std::map<std::string, Family>& Families() {
         df{"degrees of freedom", Kind::Degrees};
     static const std::map<std::string, Family> families{
         {"normal",
-         {{mean, sd}, 0, false, [](Float x, P p) { return NormalDistLess(p[0], p[1], x); },
-          [](Float x, P p) { return NormalDistGreater(p[0], p[1], x); },
+         {{mean, sd}, 0, false, [](Float x, P p) { return NormalDistLower(p[0], p[1], x); },
+          [](Float x, P p) { return NormalDistUpper(p[0], p[1], x); },
           [](Float x, P p) { return NormalPDF(x, p[0], p[1]); },
           [](Float q, P p) { return InvNormalDistLess(p[0], p[1], q); },
+          // By symmetry, from the lower inverse of the small Q itself.
+          [](Float q, P p) { return p[0] - p[1] * InvNormalLess(q); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { NormalPDFValues(lo, hi, 2, p[0], p[1], X, Y); })}},
         {"lognormal",
-         {{mean, sd}, 0, false, [](Float x, P p) { return LogNormalLess(p[0], p[1], x); },
-          [](Float x, P p) { return LogNormalGreater(p[0], p[1], x); },
+         {{mean, sd}, 0, false, [](Float x, P p) { return LogNormalLower(p[0], p[1], x); },
+          [](Float x, P p) { return LogNormalUpper(p[0], p[1], x); },
           [](Float x, P p) { return LogNormalPDF(x, p[0], p[1]); },
           [](Float q, P p) { return InvLogNormalLess(p[0], p[1], q); },
+          [](Float q, P p) { return std::exp(p[0] - p[1] * InvNormalLess(q)); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { LogNormalPDFValues(lo, hi, 2, p[0], p[1], X, Y); })}},
         {"chisq",
          {{df}, 0, false, [](Float x, P p) { return ChiSquareLess(x, Whole(p[0])); },
           [](Float x, P p) { return ChiSquareGreater(x, Whole(p[0])); },
           [](Float x, P p) { return ChiSquarePDF(x, Whole(p[0])); },
           [](Float q, P p) { return InvChiSquareLess(q, Whole(p[0])); },
+          [](Float q, P p) { return InvChiSquareGreater(q, Whole(p[0])); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { ChiSquarePDFValues(lo, hi, 2, Whole(p[0]), X, Y); })}},
         {"t",
          {{df}, 0, false, [](Float x, P p) { return StudentTLess(x, Whole(p[0])); },
           [](Float x, P p) { return StudentTGreater(x, Whole(p[0])); },
           [](Float x, P p) { return StudentTPDF(x, Whole(p[0])); },
           [](Float q, P p) { return InvStudentTLess(q, Whole(p[0])); },
+          [](Float q, P p) { return -InvStudentTLess(q, Whole(p[0])); },  // t is symmetric
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { StudentTPDFValues(lo, hi, 2, Whole(p[0]), X, Y); })}},
         {"f",
          {{{"numerator degrees of freedom", Kind::Degrees}, {"denominator degrees of freedom", Kind::Degrees}},
@@ -126,6 +134,10 @@ const std::map<std::string, Family>& Families() {
           [](Float x, P p) { return FDistGreater(x, Whole(p[0]), Whole(p[1])); },
           [](Float x, P p) { return FDistPDF(x, Whole(p[0]), Whole(p[1])); },
           [](Float q, P p) { return InvFDistLess(q, Whole(p[0]), Whole(p[1])); },
+          // 1 / X has the F distribution with the degrees of freedom exchanged.
+          [](Float q, P p) {
+              return q == 0 ? std::numeric_limits<Float>::infinity() : 1 / InvFDistLess(q, Whole(p[1]), Whole(p[0]));
+          },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { FDistPDFValues(lo, hi, 2, Whole(p[0]), Whole(p[1]), X, Y); })}},
         {"beta",
          {{{"shape A", Kind::Positive}, {"shape B", Kind::Positive}, {"lower bound", Kind::Real},
@@ -134,22 +146,29 @@ const std::map<std::string, Family>& Families() {
           [](Float x, P p) { return BetaDistGreater(x, p[0], p[1], Lo(p), Hi(p)); },
           [](Float x, P p) { return BetaPDF(x, p[0], p[1], Lo(p), Hi(p)); },
           [](Float q, P p) { return InvBetaDistLess(q, p[0], p[1], Lo(p), Hi(p)); },
+          // Hi + Lo - X has the beta distribution with the shapes exchanged.
+          [](Float q, P p) { return Hi(p) + Lo(p) - InvBetaDistLess(q, p[1], p[0], Lo(p), Hi(p)); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { BetaPDFValues(lo, hi, 2, p[0], p[1], Lo(p), Hi(p), X, Y); })}},
         {"exponential",
          {{{"rate", Kind::Positive}}, 0, false, [](Float x, P p) { return ExponentialLess(x, p[0]); },
           [](Float x, P p) { return ExponentialGreater(x, p[0]); }, [](Float x, P p) { return ExponentialPDF(x, p[0]); },
-          nullptr,
+          [](Float q, P p) { return InvExponentialLess(q, p[0]); },
+          [](Float q, P p) { return InvExponentialGreater(q, p[0]); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { ExponentialPDFValues(lo, hi, 2, p[0], X, Y); })}},
         {"binomial",
          {{{"trials", Kind::Trials}, {"probability", Kind::Probability}}, 0, true,
-          [](Float k, P p) { return BinomialLess(p[1], Count(p[0]), Count(k)); },
-          [](Float k, P p) { return BinomialGreater(p[1], Count(p[0]), Count(k)); },
-          [](Float k, P p) { return BinomialEq(p[1], Count(p[0]), Count(k)); }, nullptr,
+          [](Float k, P p) { return BinomialLower(p[1], Count(p[0]), Count(k)); },
+          [](Float k, P p) { return BinomialUpper(p[1], Count(p[0]), Count(k)); },
+          [](Float k, P p) { return BinomialEq(p[1], Count(p[0]), Count(k)); },
+          [](Float a, P p) { return Float(InvBinomialLess(p[1], Count(p[0]), a)); },
+          [](Float a, P p) { return Float(InvBinomialGreater(p[1], Count(p[0]), a)); },
           [](Float, Float, P p) { BinomialEq(p[1], Count(p[0]), 0); }}},
         {"poisson",
-         {{{"mean", Kind::Positive}}, 0, true, [](Float k, P p) { return PoissonLess(p[0], Count(k)); },
-          [](Float k, P p) { return PoissonGreater(p[0], Count(k)); },
-          [](Float k, P p) { return PoissonEq(p[0], Count(k)); }, nullptr,
+         {{{"mean", Kind::Positive}}, 0, true, [](Float k, P p) { return PoissonLower(p[0], Count(k)); },
+          [](Float k, P p) { return PoissonUpper(p[0], Count(k)); },
+          [](Float k, P p) { return PoissonEq(p[0], Count(k)); },
+          [](Float a, P p) { return Float(InvPoissonLess(p[0], a)); },
+          [](Float a, P p) { return Float(InvPoissonGreater(p[0], a)); },
           [](Float, Float, P p) { PoissonEq(p[0], 0); }}},
     };
     return families;
@@ -185,8 +204,9 @@ int Run(const DistSettings& s, const std::vector<std::string>& operands, Output&
     const Family& family = found->second;
     const std::string& function = operands[1];
     const bool table = function == "table";
-    if (!table && function != "less" && function != "greater" && function != "pdf" && function != "inv")
-        throw UsageError("unknown function " + Quoted(function) + " (less, greater, pdf, inv or table)");
+    const bool inverse = function == "inv" || function == "isf";
+    if (!table && !inverse && function != "less" && function != "greater" && function != "pdf")
+        throw UsageError("unknown function " + Quoted(function) + " (less, greater, pdf, inv, isf or table)");
     const std::size_t leading = 2 + (table ? 3 : 1), most = family.parameters.size();
     const std::size_t given = operands.size() < leading ? 0 : operands.size() - leading;
     if (operands.size() < leading || given > most || given < most - family.optional ||
@@ -197,9 +217,11 @@ int Run(const DistSettings& s, const std::vector<std::string>& operands, Output&
         throw UsageError("'" + operands[0] + " " + function + "' takes " + (table ? "XLO XHI N" : "a value") + " and " +
                          counts + " parameter" + (most == 1 ? "" : "s") + " (" + names + ")");
     }
-    const Function& routine = function == "less" ? family.less : function == "greater" ? family.greater
-                              : function == "pdf"  ? family.pdf : family.inv;
-    if (!table && !routine) throw UsageError(Quoted(operands[0]) + " has no inverse here");
+    const Function& routine = function == "less"    ? family.less
+                              : function == "greater" ? family.greater
+                              : function == "pdf"     ? family.pdf
+                              : function == "inv"     ? family.inv
+                                                      : family.isf;
     Values p;
     for (std::size_t i = 0; i < given; ++i) p.push_back(ReadParameter(operands[leading + i], family.parameters[i]));
     try {
@@ -208,6 +230,7 @@ int Run(const DistSettings& s, const std::vector<std::string>& operands, Output&
         } else {
             const std::string& text = operands[2];
             const Float x = function == "inv" ? Probability(text, "P")
+                            : function == "isf" ? Probability(text, "Q")
                             : family.discrete ? Float(WholeNumber(text, "k", 0, std::numeric_limits<Cardinal>::max()))
                                               : AnyNumber(text, "VALUE");
             out.Write(NumberText(routine(x, p), s.decimals) + "\n");

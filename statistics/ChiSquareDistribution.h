@@ -3,9 +3,10 @@
 ///
 /// Both rest on one evaluation of the regularised incomplete gamma: a series for the lower
 /// tail where X < A + 1, a continued fraction (modified Lentz) for the upper tail beyond.
-/// Each is summed until a step changes the result by less than `KorTolerance` of it, so
-/// the result is as accurate as the tolerance in force allows: about 15 significant digits
-/// at the default 1e-15. The factor X^A e^-X / Gamma(A) is formed from its logarithm
+/// The series is summed until a bound on its remaining terms falls below `KorTolerance`
+/// of the sum, the fraction until a step changes it by less than that, so the result is
+/// as accurate as the tolerance in force allows: within four times it at the default
+/// 1e-15, for A and X up to 1e6. The factor X^A e^-X / Gamma(A) is formed from its logarithm
 /// carried in two Floats, so that large arguments lose nothing to cancellation. The lower
 /// tail is computed directly below X = A + 1 and the upper one from there on, the other
 /// tail being 1 minus it; as the split lies just above the median, a small tail on either
@@ -61,12 +62,22 @@ Float ChiSquareGreater(Float ChiSq, Integer DF);
 /// Failures as for `ChiSquareLess`.
 Float ChiSquarePDF(Float ChiSq, Integer DF);
 /// The quantile: the ChiSq with `ChiSquareLess(ChiSq, DF) = P`. 0 at P = 0, infinity at
-/// P = 1; otherwise Halley steps on the smaller tail from the Wilson-Hilferty
-/// approximation, to the accuracy of the tails (and so of `KorTolerance`).
+/// P = 1. Solved on the logarithm of the smaller tail (1 - P is exact for P >= 1/2) by
+/// Halley steps inside a bracket, from a start that is right in each tail, with the tails
+/// summed to the precision of the format whatever `KorTolerance` is: within 1e-16
+/// relative, or the error that P's own rounding causes where that is larger (near P = 1,
+/// where `InvChiSquareGreater` of the upper tail keeps its digits).
 ///
 /// Failures (Platform::EMathError), in this order: DF < 1 raises Kornum_RS_Math::rsDF;
 /// P outside [0, 1] (a NaN P included) raises Kornum_RS_Math::rsValue01Inc.
 Float InvChiSquareLess(Float P, Integer DF);
+/// The upper quantile: the ChiSq with `ChiSquareGreater(ChiSq, DF) = Q`, computed from Q
+/// itself so that a tiny Q (down to the least subnormal) keeps its digits. Infinity at
+/// Q = 0, 0 at Q = 1; the method and accuracy of `InvChiSquareLess`.
+///
+/// Failures (Platform::EMathError), in this order: DF < 1 raises Kornum_RS_Math::rsDF;
+/// Q outside [0, 1] (a NaN Q included) raises Kornum_RS_Math::rsValue01Inc.
+Float InvChiSquareGreater(Float Q, Integer DF);
 /// @}
 
 }  // namespace KornumStatistics

@@ -3,10 +3,16 @@
 #include <kornum/Combinatorics.h>
 #include <kornum/Kornum_RS_Math.h>
 #include <kornum/Kornummath.h>
+#include <kornum/NormalDistributions.h>
 #include <kornum/Platform.h>
 
+#include "core/detail/ExtendedPrecision.hpp"
+#include "statistics/detail/PoissonTails.hpp"
+
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace KornumStatistics {
 
@@ -76,6 +82,125 @@ Float ProbabilityBetween(Cardinal X1, Cardinal X2, Point point, LowerTail lowerT
     return X1 > X2 ? -difference : difference;
 }
 
+// ---- Accurate tails -------------------------------------------------------------------
+
+// The accurate routines reject a NaN parameter too, which the comparisons above let
+// through.
+void CheckBinomialParameters(Float P, Cardinal N) {
+    if (N == 0 || !(P >= 0 && P <= 1)) Platform::Raise(Kornum_RS_Math::rsBinomDistInvalid);
+}
+void CheckPoissonMean(Float Lambda) {
+    if (!(Lambda > 0)) Platform::Raise(Kornum_RS_Math::rsPoissonInvalid);
+}
+
+// P(X > K) = I_P(K + 1, N - K), with P itself as the argument of the incomplete beta.
+Float BinomialAbove(Float P, Cardinal N, Count K) {
+    if (K >= N || P == 0) return 0;
+    if (P == 1) return 1;
+    return Kornummath::IncompleteBeta(P, Float(K) + 1, Float(N - K));
+}
+
+// P(X <= K) = I_(1-P)(N - K, K + 1). 1 - P is exact only for P >= 1/2, and a relative
+// error e in it would become about N e in the tail; so the incomplete beta is taken at
+// 1 - P rounded, x, and moved by the exact remainder r = (1 - P) - x times its slope, the
+// Beta(N - K, K + 1) density at x: the step is at most N 2^-65 of the tail, its square
+// is negligible, and the density needs only a few digits.
+Float BinomialAtMost(Float P, Cardinal N, Count K) {
+    if (K >= N || P == 0) return 1;
+    if (P == 1) return 0;
+    const Kornummath::special::TwoFloat q = Kornummath::special::TwoSum(1, -P);
+    const Float a = Float(N - K), b = Float(K) + 1;
+    const Float value = Kornummath::IncompleteBeta(q.hi, a, b);
+    if (q.lo == 0) return value;
+    using Kornummath::LnGamma;
+    const Float logDensity = (a - 1) * std::log(q.hi) + (b - 1) * std::log(P) -
+                             (LnGamma(a) + LnGamma(b) - LnGamma(a + b));
+    return value + q.lo * std::exp(logDensity);
+}
+
+// ---- Quantiles --------------------------------------------------------------------------
+
+void CheckLevel(Float Alpha) {
+    if (!(Alpha >= 0 && Alpha <= 1)) Platform::Raise(Kornum_RS_Math::rsValue01Inc);
+}
+
+// The standard normal quantile at a tail level, of the lower tail or of the upper one,
+// from the side where the level is small. A level 0 is taken as the smallest subnormal,
+// a level that rounds to 1 as 1 - 2^-66 (where a tail near 1 rounds to 1): the result
+// starts a search and need not be exact.
+Float NormalQuantileAt(Float level, bool upper) {
+    const Float z = level <= 0.5L
+                        ? InvNormalLess(std::max(level, std::numeric_limits<Float>::denorm_min()))
+                        : -InvNormalLess(std::max(1 - level, 0x1p-66L));
+    return upper ? -z : z;
+}
+
+// The count nearest the Cornish-Fisher approximation of the quantile at the standard
+// normal quantile z, for a distribution with this mean, standard deviation and skewness,
+// within [0, last]: a starting point for the exact search.
+Count QuantileGuess(Float z, Float mean, Float deviation, Float skewness, Count last) {
+    const Float x = mean + deviation * (z + skewness * (z * z - 1) / 6) + 0.5L;
+    if (!(x > 0)) return 0;
+    if (!(x < Float(last))) return last;
+    return Count(x);
+}
+
+// The smallest k in [0, last] with reached(k), for reached false below some count and
+// true from it on: steps out from the guess with doubling strides until the answer is
+// bracketed, then bisects. Near a good guess that is two or three evaluations. Returns
+// last + 1 when reached(last) is false.
+template <class Reached>
+Count SmallestReaching(Count guess, Count last, Reached reached) {
+    Count below, above;  // !reached(below) and reached(above) once both are set
+    if (reached(guess)) {
+        above = guess;
+        for (Count stride = 1;; stride *= 2) {
+            if (above == 0) return 0;
+            const Count probe = above > stride ? above - stride : 0;
+            if (!reached(probe)) {
+                below = probe;
+                break;
+            }
+            above = probe;
+        }
+    } else {
+        below = guess;
+        for (Count stride = 1;; stride *= 2) {
+            if (below == last) return last + 1;
+            const Count probe = last - below > stride ? below + stride : last;
+            if (reached(probe)) {
+                above = probe;
+                break;
+            }
+            below = probe;
+        }
+    }
+    while (above - below > 1) {
+        const Count middle = below + (above - below) / 2;
+        (reached(middle) ? above : below) = middle;
+    }
+    return above;
+}
+
+// The binomial quantile at normal quantile z: the moments of the guess, and the search.
+template <class Reached>
+Cardinal BinomialQuantile(Float P, Cardinal N, Float z, Reached reached) {
+    const Float mean = N * P, deviation = std::sqrt(mean * (1 - P));
+    const Float skewness = deviation > 0 ? (1 - 2 * P) / deviation : 0;
+    return Cardinal(SmallestReaching(QuantileGuess(z, mean, deviation, skewness, N), N, reached));
+}
+
+// The same for the Poisson distribution; an answer beyond the Cardinal range raises.
+template <class Reached>
+Cardinal PoissonQuantile(Float Lambda, Float z, Reached reached) {
+    constexpr Count last = std::numeric_limits<Cardinal>::max();
+    const Float deviation = std::sqrt(Lambda);
+    const Count k =
+        SmallestReaching(QuantileGuess(z, Lambda, deviation, 1 / deviation, last), last, reached);
+    if (k > last) Platform::Raise(Kornum_RS_Math::rsPoissonInvalid);
+    return Cardinal(k);
+}
+
 }  // namespace
 
 Float BinomialEq(Float P, Cardinal N, Cardinal R) {
@@ -110,6 +235,58 @@ Float PoissonBetween(Float Lambda, Cardinal X1, Cardinal X2) {
     return ProbabilityBetween(
         X1, X2, [&](Cardinal X) { return PoissonEq(Lambda, X); },
         [&](Count X) { return PoissonLowerTail(Lambda, X); });
+}
+
+Float BinomialLower(Float P, Cardinal N, Cardinal K) {
+    CheckBinomialParameters(P, N);
+    return BinomialAtMost(P, N, K);
+}
+
+Float BinomialUpper(Float P, Cardinal N, Cardinal K) {
+    CheckBinomialParameters(P, N);
+    return BinomialAbove(P, N, K);
+}
+
+Float PoissonLower(Float Lambda, Cardinal K) {
+    CheckPoissonMean(Lambda);
+    return detail::PoissonTails(Lambda, Float(K)).lower;
+}
+
+Float PoissonUpper(Float Lambda, Cardinal K) {
+    CheckPoissonMean(Lambda);
+    return detail::PoissonTails(Lambda, Float(K)).upper;
+}
+
+Cardinal InvBinomialLess(Float P, Cardinal N, Float Alpha) {
+    CheckBinomialParameters(P, N);
+    CheckLevel(Alpha);
+    if (Alpha == 0) return 0;
+    return BinomialQuantile(P, N, NormalQuantileAt(Alpha, false),
+                            [&](Count k) { return BinomialAtMost(P, N, k) >= Alpha; });
+}
+
+Cardinal InvBinomialGreater(Float P, Cardinal N, Float Alpha) {
+    CheckBinomialParameters(P, N);
+    CheckLevel(Alpha);
+    if (Alpha == 1) return 0;
+    return BinomialQuantile(P, N, NormalQuantileAt(Alpha, true),
+                            [&](Count k) { return BinomialAbove(P, N, k) <= Alpha; });
+}
+
+Cardinal InvPoissonLess(Float Lambda, Float Alpha) {
+    CheckPoissonMean(Lambda);
+    CheckLevel(Alpha);
+    if (Alpha == 0) return 0;
+    return PoissonQuantile(Lambda, NormalQuantileAt(Alpha, false),
+                           [&](Count k) { return detail::PoissonTails(Lambda, Float(k)).lower >= Alpha; });
+}
+
+Cardinal InvPoissonGreater(Float Lambda, Float Alpha) {
+    CheckPoissonMean(Lambda);
+    CheckLevel(Alpha);
+    if (Alpha == 1) return 0;
+    return PoissonQuantile(Lambda, NormalQuantileAt(Alpha, true),
+                           [&](Count k) { return detail::PoissonTails(Lambda, Float(k)).upper <= Alpha; });
 }
 
 }  // namespace KornumStatistics

@@ -6,7 +6,8 @@
 /// equals the sum of the matching "Eq" values and costs that many of them. The upper tails
 /// ("Greater") are 1 minus a lower tail, so a small upper tail keeps only its absolute
 /// accuracy. The range routines treat their two bounds asymmetrically: see
-/// `BinomialBetween`.
+/// `BinomialBetween`. The "Lower" and "Upper" routines compute each tail directly and keep
+/// its relative accuracy however small it is; the quantiles invert them exactly.
 #pragma once
 
 #include <kornum/KornumExport.h>
@@ -86,6 +87,65 @@ Float PoissonGreater(Float Lambda, Cardinal X);
 /// for Lambda <= 0, then Kornum_RS_Math::rsFactOverflow for X1 > 1754, or X2 > 1755 when
 /// the bounds are apart.
 Float PoissonBetween(Float Lambda, Cardinal X1, Cardinal X2);
+/// @}
+
+// ---- Accurate tails ---------------------------------------------------------------------
+
+/// @name Accurate binomial and Poisson tails
+/// Each tail computed directly, to full relative accuracy however small it is (down to
+/// the smallest normal Float): within 1e-17 relative of the exact tail, measured for N up
+/// to 10^5 and Lambda up to 4e9. The bound K is included in the lower tail. The binomial
+/// tails are the incomplete beta function `Kornummath::IncompleteBeta` at P, or at 1 - P
+/// with the rounding of 1 - P corrected. The Poisson tails are the regularised incomplete
+/// gamma functions of K + 1 at Lambda: near the mean, from K = 199 on, by their uniform
+/// asymptotic expansion; elsewhere the smaller tail is the point probability times a
+/// series of positive terms (at most a few hundred) and the larger one 1 minus it.
+///
+/// Failures (Platform::EMathError), parameters only: the binomial routines raise
+/// Kornum_RS_Math::rsBinomDistInvalid for N = 0 or P outside [0, 1] (NaN included), the
+/// Poisson ones Kornum_RS_Math::rsPoissonInvalid unless Lambda > 0. Every K is accepted.
+/// @{
+
+/// P(X <= `K`) for X binomial with `N` trials and success probability `P`: 1 for K >= N.
+/// BinomialLower(0.5, 4, 1) is 0.3125.
+Float BinomialLower(Float P, Cardinal N, Cardinal K);
+/// P(X > `K`) for X binomial: 0 for K >= N. BinomialUpper(0.3, 100, 90) is about 2.1e-37.
+Float BinomialUpper(Float P, Cardinal N, Cardinal K);
+/// P(Y <= `K`) for Y Poisson with mean `Lambda` (0 for an infinite Lambda).
+Float PoissonLower(Float Lambda, Cardinal K);
+/// P(Y > `K`) for Y Poisson with mean `Lambda`. PoissonUpper(4, 30) is about 1.17e-17.
+Float PoissonUpper(Float Lambda, Cardinal K);
+/// @}
+
+// ---- Quantiles --------------------------------------------------------------------------
+
+/// @name Binomial and Poisson quantiles
+/// Exact inversions of the accurate tails: the smallest count at which the tail, as the
+/// tail routine computes it, passes the level `Alpha`. A Cornish-Fisher estimate starts a
+/// search that steps out from it and bisects, each step one evaluation of the tail, so the
+/// answer is consistent with the tail routine to the last count: for instance
+/// InvBinomialLess(P, N, BinomialLower(P, N, K)) is K wherever the point probability at K
+/// is above the rounding of the tail.
+///
+/// Failures (Platform::EMathError), in this order: the parameters as in the tail
+/// routines (Kornum_RS_Math::rsBinomDistInvalid for N = 0 or P outside [0, 1],
+/// Kornum_RS_Math::rsPoissonInvalid unless Lambda > 0); then
+/// Kornum_RS_Math::rsValue01Inc for Alpha outside [0, 1] (NaN included). A Poisson
+/// quantile beyond the Cardinal range (a Lambda of about 4e9 and more) raises
+/// Kornum_RS_Math::rsPoissonInvalid.
+/// @{
+
+/// The smallest K with `BinomialLower(P, N, K) >= Alpha`: 0 for Alpha = 0, at most N.
+/// InvBinomialLess(0.5, 4, 0.5) is 2.
+Cardinal InvBinomialLess(Float P, Cardinal N, Float Alpha);
+/// The smallest K with `BinomialUpper(P, N, K) <= Alpha`: 0 for Alpha = 1, at most N.
+Cardinal InvBinomialGreater(Float P, Cardinal N, Float Alpha);
+/// The smallest K with `PoissonLower(Lambda, K) >= Alpha`: 0 for Alpha = 0; for
+/// Alpha = 1 the first K whose lower tail rounds to 1.
+Cardinal InvPoissonLess(Float Lambda, Float Alpha);
+/// The smallest K with `PoissonUpper(Lambda, K) <= Alpha`: 0 for Alpha = 1; for
+/// Alpha = 0 the first K whose upper tail underflows to 0.
+Cardinal InvPoissonGreater(Float Lambda, Float Alpha);
 /// @}
 
 }  // namespace KornumStatistics

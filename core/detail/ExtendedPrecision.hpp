@@ -162,8 +162,10 @@ inline TwoFloat Log(Float x) {
     const TwoFloat halves = Split(r);
     const Float squareLow = ((halves.hi * halves.hi - r2) + 2 * halves.hi * halves.lo) +
                             halves.lo * halves.lo;
+    // ln(1 + r + rLow) = ln(1 + r) + rLow / (1 + r) to far below an ulp: rLow is under
+    // 2^-57 of r. (Taking rLow (1 - r) instead would leave r^2 rLow, up to 2^-76.)
     const TwoFloat series = FastTwoSum(r, -r2 / 2) +
-                            TwoFloat{rLow, r2 * r * tail - squareLow / 2 - r * rLow};
+                            TwoFloat{rLow / (1 + r), r2 * r * tail - squareLow / 2};
     // k ln 2: the high part of ln 2 has 40 bits, so k times it is exact.
     return TwoFloat{Ln2.hi * k, Ln2.lo * k} + entry.log + series;
 }
@@ -217,6 +219,14 @@ struct GammaParts {
 inline GammaParts SplitGamma(TwoFloat x) {
     TwoFloat product{1, 0};
     TwoFloat z = x;
+    if (x.lo == 0 && x.hi < StirlingThreshold && 2 * x.hi == std::floor(2 * x.hi)) {
+        // A multiple of 1/2, as the shapes of the F and t families: every factor and the
+        // product (at most 1 3 5 ... 29 / 2^15, below 2^64) are exact in one Float.
+        Float exact = 1, shifted = x.hi;
+        for (; shifted < StirlingThreshold; shifted += 1) exact *= shifted;
+        product = {exact, 0};
+        z = {shifted, 0};
+    }
     for (Float i = 1; z.hi < StirlingThreshold; i += 1) {
         product = product * z;
         const TwoFloat next = TwoSum(x.hi, i);

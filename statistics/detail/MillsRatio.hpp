@@ -1,0 +1,167 @@
+// The Mills ratio of the standard normal, R(z) = P(N > z) / phi(z) for z >= 0, so that
+// the upper tail phi(z) R(z) keeps its relative precision however far out z lies.
+// Internal to the library (not installed).
+#pragma once
+
+#include <kornum/Kornumglobals.h>
+
+#include <cstdint>
+#include <cstring>
+
+namespace KornumStatistics::detail {
+
+using Kornumglobals::Float;
+
+// R(c) and R'(c) at c = i / 8 (tools/make_mills_ratio_table.py).
+struct MillsNode {
+    Float value, slope;
+};
+
+inline constexpr MillsNode MillsNodes[97] = {
+    {0xA06C98FFB1382CB3P-63L, -0x8000000000000000P-63L},  // z = 0.0
+    {0x91994D71087F9C2AP-63L, -0xDB99ACA3BDE018F6P-64L},  // z = 0.125
+    {0x84D76F8A236F190FP-63L, -0xBD94483AEE487378P-64L},  // z = 0.25
+    {0xF397493B3356CF06P-64L, -0xA4A74489CCBF725EP-64L},  // z = 0.375
+    {0xE0596BC7D86DC1F0P-64L, -0x8FD34A1C13C91F08P-64L},  // z = 0.5
+    {0xCF7F23376DC69140P-64L, -0xFCA113FAB6C7CA70P-65L},  // z = 0.625
+    {0xC0A88139FD4FB525P-64L, -0xDF033E2904087049P-65L},  // z = 0.75
+    {0xB38723D32D41665EP-64L, -0xC5D3814E70CD8CDCP-65L},  // z = 0.875
+    {0xA7DA9D4F5850E1F4P-64L, -0xB04AC5614F5E3C19P-65L},  // z = 1.0
+    {0x9D6DAA16FE3DCFB8P-64L, -0x9DC9414C43F4ECA1P-65L},  // z = 1.125
+    {0x941402DB49DDA5EDP-64L, -0x8DCDF8DBC755E12FP-65L},  // z = 1.25
+    {0x8BA8A63F3DF624B1P-64L, -0xFFE06DA42B363632P-66L},  // z = 1.375
+    {0x840C7E60E9596575P-64L, -0xE7B509BA87E79F41P-66L},  // z = 1.5
+    {0xFA4A9AE5FDFF7350P-65L, -0xD28D88948681C93CP-66L},  // z = 1.625
+    {0xEDB9A33E78A46DD8P-65L, -0xBFF644A559C07F8BP-66L},  // z = 1.75
+    {0xE24028518414B475P-65L, -0xAF8F68CE50B25B4BP-66L},  // z = 1.875
+    {0xD7BDB526AA7466E2P-65L, -0xA1092B65562E6476P-66L},  // z = 2.0
+    {0xCE1665620EC81427P-65L, -0x9420D11F412DAA59P-66L},  // z = 2.125
+    {0xC53228222DDCB357P-65L, -0x889E4B66319ED8F9P-66L},  // z = 2.25
+    {0xBCFC250500D7E016P-65L, -0xFCA4A05077FD2F31P-67L},  // z = 2.375
+    {0xB5623C968CEF413BP-65L, -0xEA29A21E7EA773B6P-67L},  // z = 2.5
+    {0xAE549EDA0228F6E0P-65L, -0xD9877C0EE951DFCEP-67L},  // z = 2.625
+    {0xA7C573BA689C4B68P-65L, -0xCA8406FD8148C28AP-67L},  // z = 2.75
+    {0xA1A8920C7295F399P-65L, -0xBCED7070DA438EA3P-67L},  // z = 2.875
+    {0x9BF34277470C28ADP-65L, -0xB098E268AB6E17E5P-67L},  // z = 3.0
+    {0x969C0C21346CC069P-65L, -0xA5616860F0B09ADBP-67L},  // z = 3.125
+    {0x919A8967B3BCCE48P-65L, -0x9B2705BBDF69865CP-67L},  // z = 3.25
+    {0x8CE7433E688963EBP-65L, -0x91CDF4357CC13B19P-67L},  // z = 3.375
+    {0x887B9213C5BC9F5AP-65L, -0x893E02EB2FAF4919P-67L},  // z = 3.5
+    {0x8451834F76AB0F08P-65L, -0x81620FFFC74FA607P-67L},  // z = 3.625
+    {0x8063C2A985588A0DP-65L, -0xF44F30225F9FD27CP-68L},  // z = 3.75
+    {0xF95B0D7762DAC430P-66L, -0xE6FCAF4583C11F17P-68L},  // z = 3.875
+    {0xF2550094896EF154P-66L, -0xDAAFF6B76910EAC7P-68L},  // z = 4.0
+    {0xEBAD97B08C8EE6F3P-66L, -0xCF4FB91EF0CA1D55P-68L},  // z = 4.125
+    {0xE55DCA5A9961CF04P-66L, -0xC4C58FFBD08140B9P-68L},  // z = 4.25
+    {0xDF5F390461B779EEP-66L, -0xBAFD9A3351F52A35P-68L},  // z = 4.375
+    {0xD9AC1A2C5C6E1A95P-66L, -0xB1E628E180422183P-68L},  // z = 4.5
+    {0xD43F29F031C82D66P-66L, -0xA96F78246708B825P-68L},  // z = 4.625
+    {0xCF139BAF522A2462P-66L, -0xA18B71FCE6DF4CB7P-68L},  // z = 4.75
+    {0xCA250D7382AFB666P-66L, -0x9A2D79B38B9D9B32P-68L},  // z = 4.875
+    {0xC56F7CE09FC4E9B1P-66L, -0x934A3E73849DBE24P-68L},  // z = 5.0
+    {0xC0EF3D765FC9146BP-66L, -0x8CD794055465DD6AP-68L},  // z = 5.125
+    {0xBCA0EFF6D6E3C8F0P-66L, -0x86CC50C05F50844FP-68L},  // z = 5.25
+    {0xB8817ACB28ECDF28P-66L, -0x81202FF0101B4224P-68L},  // z = 5.375
+    {0xB48E0345707740FAP-66L, -0xF7977010AB80D51BP-69L},  // z = 5.5
+    {0xB0C3E7A399CBCB36P-66L, -0xED90483DF72D4793P-69L},  // z = 5.625
+    {0xAD20B9BAEC633022P-66L, -0xE41EA069862D59E4P-69L},  // z = 5.75
+    {0xA9A23A375CB0E50FP-66L, -0xDB374FD5FB85F232P-69L},  // z = 5.875
+    {0xA646545C9CB243DDP-66L, -0xD2D02EA29E934698P-69L},  // z = 6.0
+    {0xA30B1A3951009C80P-66L, -0xCADFFB077EE20B8FP-69L},  // z = 6.125
+    {0x9FEEC13EE3B1D6CAP-66L, -0xC35E41B787440CA4P-69L},  // z = 6.25
+    {0x9CEF9F3234B22D23P-66L, -0xBC4348FF8081021EP-69L},  // z = 6.375
+    {0x9A0C276AEC8A3CECP-66L, -0xB587FE47F3EB9FF8P-69L},  // z = 6.5
+    {0x9742E85884C81223P-66L, -0xAF25E5AC82943EBCP-69L},  // z = 6.625
+    {0x9492894538E65A06P-66L, -0xA9170B65FF6902A7P-69L},  // z = 6.75
+    {0x91F9C8500A9974C3P-66L, -0xA355F6CDB907EA11P-69L},  // z = 6.875
+    {0x8F777897DAC32B7FP-66L, -0x9DDD9EC8254E7C32P-69L},  // z = 7.0
+    {0x8D0A809251E7490EP-66L, -0x98A95F6BC380BBECP-69L},  // z = 7.125
+    {0x8AB1D889F40160F6P-66L, -0x93B4F0BEB7B0082FP-69L},  // z = 7.25
+    {0x886C893F479497DCP-66L, -0x8EFC5E6A80C10033P-69L},  // z = 7.375
+    {0x8639AAA971B47127P-66L, -0x8A7C004959B57AF6P-69L},  // z = 7.5
+    {0x841862D31320B149P-66L, -0x863073B47135C19CP-69L},  // z = 7.625
+    {0x8207E4D08F844618P-66L, -0x8216957D3DF7063BP-69L},  // z = 7.75
+    {0x80076FCD394C3468P-66L, -0xFC56F8FDCC7E350BP-70L},  // z = 7.875
+    {0xFC2C9C5A47DEBF42P-67L, -0xF4D8E96E08502F9FP-70L},  // z = 8.0
+    {0xF867A9833A707FCEP-67L, -0xEDADF5AE296F8CA1P-70L},  // z = 8.125
+    {0xF4BEC41D0AA5D2E1P-67L, -0xE6D17083413FA202P-70L},  // z = 8.25
+    {0xF130BB3DDC0E8E8DP-67L, -0xE03EFECF6830B131P-70L},  // z = 8.375
+    {0xEDBC6ECF28F211EAP-67L, -0xD9F290F91FB33DD6P-70L},  // z = 8.5
+    {0xEA60CE6BDD7CF045P-67L, -0xD3E85CED4D533D62P-70L},  // z = 8.625
+    {0xE71CD855507B623BP-67L, -0xCE1CD8ABFE4323CBP-70L},  // z = 8.75
+    {0xE3EF987D0B1E8703P-67L, -0xC88CB551EA888E3CP-70L},  // z = 8.875
+    {0xE0D827A1863C48ABP-67L, -0xC334DA923F0B8FDCP-70L},  // z = 9.0
+    {0xDDD5AA7C328E7D0CP-67L, -0xBE126295955E57B7P-70L},  // z = 9.125
+    {0xDAE750FF4B629018P-67L, -0xB9229634358258F6P-70L},  // z = 9.25
+    {0xD80C55A2188D0D8BP-67L, -0xB462E982CEAD0863P-70L},  // z = 9.375
+    {0xD543FCBA65D4EA59P-67L, -0xAFD0F8A9C4CA6D8FP-70L},  // z = 9.5
+    {0xD28D93E213E1306DP-67L, -0xAB6A850005446F4FP-70L},  // z = 9.625
+    {0xCFE87167C16949A7P-67L, -0xA72D726311EB8F27P-70L},  // z = 9.75
+    {0xCD53F3C9A3583082P-67L, -0xA317C4C697C90800P-70L},  // z = 9.875
+    {0xCACF8139B80D8C4EP-67L, -0x9F279DF67BC427BFP-70L},  // z = 10.0
+    {0xC85A872A9533AE38P-67L, -0x9B5B3B86CAA5E041P-70L},  // z = 10.125
+    {0xC5F479E420FC755AP-67L, -0x97B0F4ED6F226935P-70L},  // z = 10.25
+    {0xC39CD41F9737DA39P-67L, -0x942739C1F8E43F77P-70L},  // z = 10.375
+    {0xC15316AA48CD54F0P-67L, -0x90BC90201CA02139P-70L},  // z = 10.5
+    {0xBF16C80E90D7E72AP-67L, -0x8D6F9329E8503EFCP-70L},  // z = 10.625
+    {0xBCE774428620C7F2P-67L, -0x8A3EF1A6F0FCD4A0P-70L},  // z = 10.75
+    {0xBAC4AC5BFA17AD08P-67L, -0x87296CBE01F4326DP-70L},  // z = 10.875
+    {0xB8AE06495FCED58AP-67L, -0x842DD6C710E69866P-70L},  // z = 11.0
+    {0xB6A31C8F3E065B7CP-67L, -0x814B12336FCA31F1P-70L},  // z = 11.125
+    {0xB4A38E09D70D1110P-67L, -0xFD002114CAD0007DP-71L},  // z = 11.25
+    {0xB2AEFDB2B841DF34P-67L, -0xF797A2F1012B512BP-71L},  // z = 11.375
+    {0xB0C51269E9618BEDP-67L, -0xF25AC3E041E36D7EP-71L},  // z = 11.5
+    {0xAEE576C2799A5325P-67L, -0xED47B6B3A5DF96E2P-71L},  // z = 11.625
+    {0xAD0FD8D22DA7614BP-67L, -0xE85CC5A679148D1BP-71L},  // z = 11.75
+    {0xAB43EA041707058EP-67L, -0xE39850F6E8C9E044P-71L},  // z = 11.875
+    {0xA9815EEDE0C2F84AP-67L, -0xDEF8CD976DC5C8CCP-71L},  // z = 12.0
+};
+
+// R(z) for finite z >= 0, within about two ulps.
+//
+// Below 12: the Taylor series at the nearest node c, |z - c| <= 1/16. R satisfies
+// R' = z R - 1, so its Taylor coefficients follow from the two tabulated ones by
+// (k + 1) r(k+1) = c r(k) + r(k-1); the series is summed to the 12th power, beyond which
+// the terms stay below 2^-66 of the sum.
+//
+// From 12 on: the asymptotic series R(z) = (1/z) sum (-1)^k (2k - 1)!! z^-2k to k = 20,
+// whose first omitted term is below 2^-67 there.
+inline Float MillsRatio(Float z) {
+    constexpr int Degree = 12;
+    if (z < 12) {
+        // Adding 1.5 * 2^63 rounds 8 z to the nearest integer and leaves it in the low
+        // bits of the significand: no slow conversion of this format to an integer.
+        constexpr Float Shifter = 0x1.8p63L;
+        const Float shifted = z * 8 + Shifter;
+        const Float c = (shifted - Shifter) / 8;
+        std::uint64_t bits;
+        std::memcpy(&bits, &shifted, sizeof bits);
+        const MillsNode& node = MillsNodes[bits - 0xC000000000000000ull];
+        static constexpr Float Inverse[Degree + 1] = {
+            0, 1, 1.0L / 2, 1.0L / 3, 1.0L / 4, 1.0L / 5, 1.0L / 6, 1.0L / 7,
+            1.0L / 8, 1.0L / 9, 1.0L / 10, 1.0L / 11, 1.0L / 12};
+        Float r[Degree + 1];
+        r[0] = node.value;
+        r[1] = node.slope;
+        for (int k = 1; k < Degree; ++k) r[k + 1] = (c * r[k] + r[k - 1]) * Inverse[k + 1];
+        const Float h = z - c;  // exact
+        Float sum = r[Degree];
+        for (int k = Degree - 1; k >= 0; --k) sum = sum * h + r[k];
+        return sum;
+    }
+    // (-1)^k (2k - 1)!!, k = 0 .. 20.
+    static constexpr Float Asymptotic[] = {
+        1.0L, -1.0L, 3.0L, -15.0L, 105.0L, -945.0L, 10395.0L, -135135.0L, 2027025.0L,
+        -34459425.0L, 654729075.0L, -13749310575.0L, 316234143225.0L, -7905853580625.0L,
+        213458046676875.0L, -6190283353629375.0L, 191898783962510625.0L,
+        -6332659870762850625.0L, 221643095476699771875.0L, -8200794532637891559375.0L,
+        319830986772877770815625.0L};
+    constexpr int Terms = sizeof Asymptotic / sizeof Asymptotic[0];
+    const Float inverse = 1 / z;
+    const Float w = inverse * inverse;
+    Float sum = Asymptotic[Terms - 1];
+    for (int k = Terms - 2; k >= 0; --k) sum = sum * w + Asymptotic[k];
+    return sum * inverse;
+}
+
+}  // namespace KornumStatistics::detail
