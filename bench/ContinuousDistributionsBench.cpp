@@ -86,20 +86,30 @@ const std::vector<Float> chiPoints = Points(7, false), tPoints = Points(2, true)
 KORNUM_PAIR(ChiSquareLess, chiPoints, ChiSquareLess(x, 7), bm::cdf(chi, x))
 KORNUM_PAIR(ChiSquareGreater, chiPoints, ChiSquareGreater(x, 7), bm::cdf(bm::complement(chi, x)))
 KORNUM_PAIR(InvChiSquareLess, probabilities, InvChiSquareLess(x, 7), bm::quantile(chi, x))
+KORNUM_PAIR(InvChiSquareGreater, probabilities, InvChiSquareGreater(x, 7), bm::quantile(bm::complement(chi, x)))
 KORNUM_PAIR(StudentTLess, tPoints, StudentTLess(x, 7), bm::cdf(student, x))
 KORNUM_PAIR(StudentTGreater, tPoints, StudentTGreater(x, 7), bm::cdf(bm::complement(student, x)))
 KORNUM_PAIR(InvStudentTLess, probabilities, InvStudentTLess(x, 7), bm::quantile(student, x))
+KORNUM_PAIR(InvStudentTGreater, probabilities, InvStudentTGreater(x, 7), bm::quantile(bm::complement(student, x)))
 // Beyond 60 degrees of freedom the t family leaves its closed forms for the incomplete beta.
 KORNUM_PAIR(StudentTLess100, tPoints, StudentTLess(x, 100), bm::cdf(student100, x))
 KORNUM_PAIR(InvStudentTLess100, probabilities, InvStudentTLess(x, 100), bm::quantile(student100, x))
+KORNUM_PAIR(InvStudentTGreater100, probabilities, InvStudentTGreater(x, 100),
+            bm::quantile(bm::complement(student100, x)))
 KORNUM_PAIR(FDistLess, fPoints, FDistLess(x, 5, 12), bm::cdf(fisher, x))
 KORNUM_PAIR(FDistGreater, fPoints, FDistGreater(x, 5, 12), bm::cdf(bm::complement(fisher, x)))
 KORNUM_PAIR(InvFDistLess, probabilities, InvFDistLess(x, 5, 12), bm::quantile(fisher, x))
+KORNUM_PAIR(InvFDistGreater, probabilities, InvFDistGreater(x, 5, 12), bm::quantile(bm::complement(fisher, x)))
 KORNUM_PAIR(BetaDistLess, betaPoints, BetaDistLess(x, parameters::betaA, parameters::betaB), bm::cdf(betaDist, x))
 KORNUM_PAIR(BetaDistGreater, betaPoints, BetaDistGreater(x, parameters::betaA, parameters::betaB), bm::cdf(bm::complement(betaDist, x)))
 KORNUM_PAIR(InvBetaDistLess, probabilities, InvBetaDistLess(x, parameters::betaA, parameters::betaB), bm::quantile(betaDist, x))
+KORNUM_PAIR(InvBetaDistGreater, probabilities, InvBetaDistGreater(x, parameters::betaA, parameters::betaB),
+            bm::quantile(bm::complement(betaDist, x)))
 KORNUM_PAIR(ExponentialLess, expPoints, ExponentialLess(x, parameters::rate), bm::cdf(expo, x))
 KORNUM_PAIR(ExponentialGreater, expPoints, ExponentialGreater(x, parameters::rate), bm::cdf(bm::complement(expo, x)))
+KORNUM_PAIR(InvExponentialLess, probabilities, InvExponentialLess(x, parameters::rate), bm::quantile(expo, x))
+KORNUM_PAIR(InvExponentialGreater, probabilities, InvExponentialGreater(x, parameters::rate),
+            bm::quantile(bm::complement(expo, x)))
 
 }  // namespace
 

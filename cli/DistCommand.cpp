@@ -126,7 +126,7 @@ const std::map<std::string, Family>& Families() {
           [](Float x, P p) { return StudentTGreater(x, Whole(p[0])); },
           [](Float x, P p) { return StudentTPDF(x, Whole(p[0])); },
           [](Float q, P p) { return InvStudentTLess(q, Whole(p[0])); },
-          [](Float q, P p) { return -InvStudentTLess(q, Whole(p[0])); },  // t is symmetric
+          [](Float q, P p) { return InvStudentTGreater(q, Whole(p[0])); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { StudentTPDFValues(lo, hi, 2, Whole(p[0]), X, Y); })}},
         {"f",
          {{{"numerator degrees of freedom", Kind::Degrees}, {"denominator degrees of freedom", Kind::Degrees}},
@@ -134,10 +134,7 @@ const std::map<std::string, Family>& Families() {
           [](Float x, P p) { return FDistGreater(x, Whole(p[0]), Whole(p[1])); },
           [](Float x, P p) { return FDistPDF(x, Whole(p[0]), Whole(p[1])); },
           [](Float q, P p) { return InvFDistLess(q, Whole(p[0]), Whole(p[1])); },
-          // 1 / X has the F distribution with the degrees of freedom exchanged.
-          [](Float q, P p) {
-              return q == 0 ? std::numeric_limits<Float>::infinity() : 1 / InvFDistLess(q, Whole(p[1]), Whole(p[0]));
-          },
+          [](Float q, P p) { return InvFDistGreater(q, Whole(p[0]), Whole(p[1])); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { FDistPDFValues(lo, hi, 2, Whole(p[0]), Whole(p[1]), X, Y); })}},
         {"beta",
          {{{"shape A", Kind::Positive}, {"shape B", Kind::Positive}, {"lower bound", Kind::Real},
@@ -146,8 +143,7 @@ const std::map<std::string, Family>& Families() {
           [](Float x, P p) { return BetaDistGreater(x, p[0], p[1], Lo(p), Hi(p)); },
           [](Float x, P p) { return BetaPDF(x, p[0], p[1], Lo(p), Hi(p)); },
           [](Float q, P p) { return InvBetaDistLess(q, p[0], p[1], Lo(p), Hi(p)); },
-          // Hi + Lo - X has the beta distribution with the shapes exchanged.
-          [](Float q, P p) { return Hi(p) + Lo(p) - InvBetaDistLess(q, p[1], p[0], Lo(p), Hi(p)); },
+          [](Float q, P p) { return InvBetaDistGreater(q, p[0], p[1], Lo(p), Hi(p)); },
           TableCheck([](Float lo, Float hi, P p, V X, V Y) { BetaPDFValues(lo, hi, 2, p[0], p[1], Lo(p), Hi(p), X, Y); })}},
         {"exponential",
          {{{"rate", Kind::Positive}}, 0, false, [](Float x, P p) { return ExponentialLess(x, p[0]); },

@@ -12,7 +12,6 @@ namespace KornumStatistics {
 namespace {
 
 using namespace detail;  // the distribution sources' shared checks and pieces
-using Kornummath::InverseIncompleteBeta;
 
 void RequireF(Float x, Integer n1, Integer n2, const Platform::ResourceString& negative, bool zeroAllowed) {
     Require(zeroAllowed ? x >= 0 : x > 0, negative);
@@ -33,6 +32,14 @@ Float FDistTail(Float X, Integer N1, Integer N2, bool upper) {
                  : special::IncompleteBeta(a / sum, Float(N1) / 2, b / 2);
 }
 
+// The quantile from the beta quantile y = n1 x / (n1 x + n2) and its complement
+// n2 / (n1 x + n2), both to full relative precision: x = n2 y / (n1 (1 - y)).
+Float FQuantile(Float p, Integer N1, Integer N2, bool upper) {
+    const Float n1 = N1, n2 = N2;
+    const special::BetaQuantile y = special::InverseIncompleteBeta(p, n1 / 2, n2 / 2, upper);
+    return n2 * y.x / (n1 * y.complement);
+}
+
 }  // namespace
 
 Float FDistLess(Float X, Integer N1, Integer N2) {
@@ -45,17 +52,20 @@ Float FDistGreater(Float X, Integer N1, Integer N2) {
     return FDistTail(X, N1, N2, true);
 }
 
-// The beta density at y = n1 x / (n1 x + n2), times dy/dx = n1 n2 / (n1 x + n2)^2.
+// The beta density at y = n1 x / (n1 x + n2) times dy/dx; y and 1 - y = n2 / (n1 x + n2)
+// are formed in two Floats from the exact product n1 x.
 Float FDistPDF(Float X, Integer N1, Integer N2) {
     RequireF(X, N1, N2, Kornum_RS_Math::rsValueGEZero, true);
     if (std::isinf(X)) return 0;
     const Float n1 = N1, n2 = N2;
     if (X == 0) return N1 == 2 ? 1 : N1 < 2 ? Infinity : 0;
     const TwoFloat a = special::TwoProduct(n1, X);
+    if (!std::isfinite(a.hi)) return 0;
     const TwoFloat sum = special::TwoSum(a.hi, n2) + TwoFloat{a.lo, 0};
-    // (n1 x)^(n1/2) n2^(n2/2) / (n1 x + n2)^((n1+n2)/2) / (x Beta(n1/2, n2/2))
-    const TwoFloat e = special::Log(a) * (n1 / 2) + special::Log(n2) * (n2 / 2) - special::Log(sum) * ((n1 + n2) / 2);
-    return ExpOver(e, X * Kornummath::Beta(n1 / 2, n2 / 2));
+    const TwoFloat y = a / sum, complement = TwoFloat{n2, 0} / sum;
+    // dy/dx = (1 - y) n1 / (n1 x + n2), multiplied in this order so that no partial product
+    // leaves the range of Float where the density itself does not.
+    return special::BetaDensity(y, complement, n1 / 2, n2 / 2) * complement.hi * (n1 / sum.hi);
 }
 
 Float InvFDistLess(Float P, Integer N1, Integer N2) {
@@ -64,13 +74,16 @@ Float InvFDistLess(Float P, Integer N1, Integer N2) {
     RequireDegrees(N2);
     Require(P != 1, Kornum_RS_Math::rsInvalidValue);
     if (P == 0) return 0;
-    const Float n1 = N1, n2 = N2;
-    if (P <= 0.5L) {
-        const Float y = InverseIncompleteBeta(P, n1 / 2, n2 / 2);  // y = n1 x / (n1 x + n2)
-        return n2 * y / (n1 * (1 - y));
-    }
-    const Float z = InverseIncompleteBeta(1 - P, n2 / 2, n1 / 2);  // z = 1 - y, 1 - P exact
-    return n2 * (1 - z) / (n1 * z);
+    return FQuantile(P, N1, N2, false);
+}
+
+Float InvFDistGreater(Float Q, Integer N1, Integer N2) {
+    RequireProbability(Q);
+    RequireDegrees(N1);
+    RequireDegrees(N2);
+    Require(Q != 0, Kornum_RS_Math::rsInvalidValue);
+    if (Q == 1) return 0;
+    return FQuantile(Q, N1, N2, true);
 }
 
 }  // namespace KornumStatistics

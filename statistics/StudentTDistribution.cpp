@@ -66,7 +66,7 @@ Float StudentTPDF(Float T, Integer DF) {
 // Halley's method on the smaller tail (P and 1 - P exchanged by the symmetry). Up to
 // StudentClosedFormLimit degrees of freedom each step evaluates the closed forms, and the
 // incomplete beta only for a tail they cannot resolve; beyond, the incomplete beta gives
-// the central probability or the tail, and the density is f(0) x^((df + 1) / 2).
+// the central probability or the tail, and t f(t) is f(0) sqrt(df (1 - x)) x^(df / 2).
 Float InvStudentTLess(Float P, Integer DF) {
     RequireDegrees(DF);
     RequireProbability(P);
@@ -85,12 +85,17 @@ Float InvStudentTLess(Float P, Integer DF) {
                     densityAtZero * v.falloff, v.x};
         }
         const detail::StudentRatiosExact r = detail::MakeStudentRatiosExact(t, n);
-        const Float density = densityAtZero * std::pow(r.x.hi, (n + 1) / 2);
-        if (onCentral) return {special::IncompleteBeta(r.y, 0.5L, n / 2), 0, density, r.x.hi};
-        return {0, 2 * StudentTail(t, DF), density, r.x.hi};
+        // t f(t) = f(0) sqrt(n (1 - x)) x^(n / 2): x^((n + 1) / 2) alone can fall below the
+        // normal range where t f(t) does not
+        const Float slope = densityAtZero * std::sqrt(n * r.y.hi) * std::pow(r.x.hi, n / 2);
+        if (onCentral) return {special::IncompleteBeta(r.y, 0.5L, n / 2), 0, slope, r.x.hi};
+        return {0, 2 * StudentTail(t, DF), slope, r.x.hi};
     };
     const Float t = detail::InverseStudentTail(tail, -InvNormalLess(tail), DF, densityAtZero, evaluate);
     return P < 0.5L ? -t : t;
 }
+
+// By the symmetry P(T > t) = P(T < -t); 0 - t keeps Q = 1/2 at +0.
+Float InvStudentTGreater(Float Q, Integer DF) { return 0 - InvStudentTLess(Q, DF); }
 
 }  // namespace KornumStatistics

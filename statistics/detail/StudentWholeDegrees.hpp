@@ -80,7 +80,7 @@ inline Float StudentDensityAtZero(Integer n) {
 struct StudentClosedForm {
     Float central;   // P(|T| < t), to full relative precision
     Float tail;      // P(|T| > t), to full relative precision where tailKept
-    Float falloff;   // f(t) / f(0) = x^((n + 1) / 2)
+    Float falloff;   // t f(t) / f(0) = t x^((n + 1) / 2)
     Float x;         // n / (n + t^2)
     bool tailKept;
 };
@@ -96,7 +96,10 @@ inline StudentClosedForm EvaluateStudentClosedForm(Float t, Integer n) {
     Float power = 1, base = x;  // x^m by squaring
     for (int e = m; e > 0; e >>= 1, base *= base)
         if (e & 1) power *= base;
-    const Float falloff = power * (odd ? x : c);
+    // t x^((n + 1) / 2) as (t sqrt(x)) x^(n / 2): t sqrt(x) = sqrt(n (1 - x)) is at most
+    // sqrt(n), while x^((n + 1) / 2) alone would for a huge t fall below the normal range
+    // where the tail and t f(t) stay inside it.
+    const Float falloff = t * c * power * (odd ? c : 1);
     // Each form ends in the factor s (even) or (2 / pi) s c (odd).
     const Float factor = odd ? 2 * s * c * InversePi : s;
     if (x <= 0.75L) {
@@ -124,9 +127,11 @@ inline bool StudentTailClosedForm(Float t, Integer n, Float& tail) {
 }
 
 // A point of the distribution for the inverse: the two probabilities, of which the solver
-// names the one it needs at full relative precision, the density f(t), and n / (n + t^2).
+// names the one it needs at full relative precision, t times the density f(t) (the
+// density's own size for a huge t can lie below the normal range of Float, where it loses
+// its digits), and n / (n + t^2).
 struct StudentPoint {
-    Float central, tail, density, x;  // P(|T| < t), P(|T| > t), f(t), x
+    Float central, tail, slope, x;  // P(|T| < t), P(|T| > t), t f(t), x
 };
 
 // A first t for P(T > t) = tail, given z with P(Z > z) = tail for the standard normal Z:
@@ -168,10 +173,10 @@ Float InverseStudentTail(Float tail, Float z, Integer n, Float densityAtZero, Ev
         if (!onCentral && !(std::fabs(v.tail / target - 1) <= 0x1p-10L)) {
             // Far from the root the tail is nearer a power of t than a line: a Newton step
             // on ln P(|T| > t) against ln t, whose slope is -2 t f(t) / P(|T| > t).
-            next = t * std::exp(std::log(v.tail / target) * v.tail / (2 * t * v.density));
+            next = t * std::exp(std::log(v.tail / target) * v.tail / (2 * v.slope));
         } else {
             // The residual's derivative is 2 f(t), and f'/f = -(n + 1) t / (n + t^2).
-            const Float newton = residual / (2 * v.density);
+            const Float newton = residual * t / (2 * v.slope);
             Float damping = 1 + 0.5L * newton * (n + 1) * t * v.x / n;
             if (!(damping > 0.5L)) damping = 1;  // a plain Newton step instead
             next = t - newton / damping;

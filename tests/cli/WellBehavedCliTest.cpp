@@ -74,7 +74,9 @@ TEST_F(WellBehavedCli, GeneratorsFinishAtTheirParameterEdges) {
         EXPECT_TRUE(outcome.status == 0 || outcome.status == 2) << arguments << ": " << outcome.status;
     }
     const Outcome huge = RunKornum("random poisson 1e30 -n 3 --seed 1");
-    if (huge.status == 2) EXPECT_EQ(huge.output.rfind("kornum random: poisson 1e30: ", 0), 0u) << huge.output;
+    if (huge.status == 2) {
+        EXPECT_EQ(huge.output.rfind("kornum random: poisson 1e30: ", 0), 0u) << huge.output;
+    }
 }
 
 TEST_F(WellBehavedCli, NonFiniteInputIsBadInputUnlessAllowed) {

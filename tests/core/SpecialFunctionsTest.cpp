@@ -199,7 +199,8 @@ TEST(SpecialFunctions, IncompleteBetaIdentitiesAndEdges) {
 TEST(SpecialFunctions, InverseIncompleteBetaEdgesAndRoundTrips) {
     EXPECT_EQ(Kornummath::InverseIncompleteBeta(0, 2, 3), 0);
     EXPECT_EQ(Kornummath::InverseIncompleteBeta(1, 2, 3), 1);
-    EXPECT_LE(RelativeError(Kornummath::InverseIncompleteBeta(0.3L, 1, 1), 0.3L), 2 * Ulp);
+    // I_x(1, 1) = x: the quantile carries the few ulps of the incomplete beta it inverts.
+    EXPECT_LE(RelativeError(Kornummath::InverseIncompleteBeta(0.3L, 1, 1), 0.3L), 4 * Ulp);
     EXPECT_TRUE(std::isnan(Kornummath::InverseIncompleteBeta(-0.1L, 2, 3)));
     EXPECT_TRUE(std::isnan(Kornummath::InverseIncompleteBeta(0.5L, 2, 0)));
     // Round trips where the inverse is well conditioned, including large shapes.

@@ -16,6 +16,8 @@ import sys
 # What the statistics library takes from the base library beyond the public headers.
 INTERNAL_INTERFACE = {
     "Kornummath::special::IncompleteBeta(Kornummath::special::TwoFloat, long double, long double)",
+    "Kornummath::special::BetaDensity(Kornummath::special::TwoFloat, Kornummath::special::TwoFloat, long double, long double)",
+    "Kornummath::special::InverseIncompleteBeta(long double, long double, long double, bool)",
 }
 
 # Compiler-made companions of a class or variable name the check reads through.
