@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Writes the reference tables of the special functions to tests/data/special_*.tsv.
+"""Writes the reference tables of the special functions to tests/data/gammafn_*.tsv.
 
 Every input is a binary double, written as a hex float, so it is exactly the same
 long double in the tests; every expected value is computed by mpmath at 60 digits
 and printed with 25 significant digits. Each row ends with a category name that the
 tests use to apply the right tolerance and to report the worst error per range.
 
-Run from the repository root:  python3 tools/make_special_function_references.py
+Run from the repository root:  python3 tools/make_gamma_beta_function_references.py
 """
 import os
 import random
@@ -65,8 +65,8 @@ def gamma_tables():
     for _ in range(60):
         x = loguniform(1754.0, 1e300)
         lg.append((hx(x), num(mp.loggamma(mp.mpf(x))), "huge"))
-    write("special_gamma.tsv", ["x", "Gamma(x)", "category"], g)
-    write("special_lngamma.tsv", ["x", "ln|Gamma(x)|", "category"], lg)
+    write("gammafn_gamma.tsv", ["x", "Gamma(x)", "category"], g)
+    write("gammafn_lngamma.tsv", ["x", "ln|Gamma(x)|", "category"], lg)
 
 
 def beta_table():
@@ -82,7 +82,7 @@ def beta_table():
         v = mp.beta(a, b)
         if v > mp.mpf("1e-4900"):
             rows.append((hx(a), hx(b), num(v), "large"))
-    write("special_beta.tsv", ["a", "b", "Beta(a,b)", "category"], rows)
+    write("gammafn_beta.tsv", ["a", "b", "Beta(a,b)", "category"], rows)
 
 
 def ibeta_lower(x, a, b):
@@ -121,7 +121,7 @@ def ibeta_table():
         m = a / (a + b)
         sd = (a * b / ((a + b) ** 2 * (a + b + 1))) ** 0.5
         add(m + rng.gauss(0, 3) * sd, a, b, "large")
-    write("special_ibeta.tsv", ["x", "a", "b", "I_x(a,b)", "category"], rows)
+    write("gammafn_ibeta.tsv", ["x", "a", "b", "I_x(a,b)", "category"], rows)
 
 
 def ibeta_inv_table():
@@ -153,7 +153,7 @@ def ibeta_inv_table():
                 lo, hi = (mid, hi) if f(mid) > 0 else (lo, mid)
             x = 1 - mp.exp((lo + hi) / 2)
         rows.append((hx(p), hx(a), hx(b), num(x), "moderate"))
-    write("special_ibeta_inv.tsv", ["p", "a", "b", "x", "category"], rows)
+    write("gammafn_ibeta_inv.tsv", ["p", "a", "b", "x", "category"], rows)
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 // Accuracy of the special functions against the 60-digit tables in tests/data
-// (made by tools/make_special_function_references.py), plus identities that can be checked by hand.
+// (made by tools/make_gamma_beta_function_references.py), plus identities that can be checked by hand.
 #include <kornum/Kornummath.h>
 
 #include <gtest/gtest.h>
@@ -73,9 +73,9 @@ private:
     std::map<std::string, Float> worst_;
 };
 
-TEST(SpecialFunctions, GammaMatchesReferenceTable) {
+TEST(GammaBetaFunctions, GammaMatchesReferenceTable) {
     WorstErrors worst("Gamma");
-    for (const Row& r : ReadTable("special_gamma.tsv")) {
+    for (const Row& r : ReadTable("gammafn_gamma.tsv")) {
         const Float x = r.values[0], expected = r.values[1];
         const Float error = RelativeError(Kornummath::Gamma(x), expected);
         worst.Add(r.category, error);
@@ -83,10 +83,10 @@ TEST(SpecialFunctions, GammaMatchesReferenceTable) {
     }
 }
 
-TEST(SpecialFunctions, LnGammaMatchesReferenceTable) {
+TEST(GammaBetaFunctions, LnGammaMatchesReferenceTable) {
     WorstErrors relative("LnGamma");
     WorstErrors absolute("LnGamma_absolute");
-    for (const Row& r : ReadTable("special_lngamma.tsv")) {
+    for (const Row& r : ReadTable("gammafn_lngamma.tsv")) {
         const Float x = r.values[0], expected = r.values[1];
         const Float got = Kornummath::LnGamma(x);
         const Float error = RelativeError(got, expected);
@@ -99,9 +99,9 @@ TEST(SpecialFunctions, LnGammaMatchesReferenceTable) {
     }
 }
 
-TEST(SpecialFunctions, BetaMatchesReferenceTable) {
+TEST(GammaBetaFunctions, BetaMatchesReferenceTable) {
     WorstErrors worst("Beta");
-    for (const Row& r : ReadTable("special_beta.tsv")) {
+    for (const Row& r : ReadTable("gammafn_beta.tsv")) {
         const Float a = r.values[0], b = r.values[1], expected = r.values[2];
         const Float error = RelativeError(Kornummath::Beta(a, b), expected);
         worst.Add(r.category, error);
@@ -110,9 +110,9 @@ TEST(SpecialFunctions, BetaMatchesReferenceTable) {
     }
 }
 
-TEST(SpecialFunctions, IncompleteBetaMatchesReferenceTable) {
+TEST(GammaBetaFunctions, IncompleteBetaMatchesReferenceTable) {
     WorstErrors worst("IncompleteBeta");
-    for (const Row& r : ReadTable("special_ibeta.tsv")) {
+    for (const Row& r : ReadTable("gammafn_ibeta.tsv")) {
         const Float x = r.values[0], a = r.values[1], b = r.values[2], expected = r.values[3];
         const Float error = RelativeError(Kornummath::IncompleteBeta(x, a, b), expected);
         worst.Add(r.category, error);
@@ -124,9 +124,9 @@ TEST(SpecialFunctions, IncompleteBetaMatchesReferenceTable) {
     }
 }
 
-TEST(SpecialFunctions, InverseIncompleteBetaMatchesReferenceTable) {
+TEST(GammaBetaFunctions, InverseIncompleteBetaMatchesReferenceTable) {
     WorstErrors worst("InverseIncompleteBeta");
-    for (const Row& r : ReadTable("special_ibeta_inv.tsv")) {
+    for (const Row& r : ReadTable("gammafn_ibeta_inv.tsv")) {
         const Float p = r.values[0], a = r.values[1], b = r.values[2], expected = r.values[3];
         const Float error = RelativeError(Kornummath::InverseIncompleteBeta(p, a, b), expected);
         worst.Add(r.category, error);
@@ -135,7 +135,7 @@ TEST(SpecialFunctions, InverseIncompleteBetaMatchesReferenceTable) {
     }
 }
 
-TEST(SpecialFunctions, GammaAndBetaIdentities) {
+TEST(GammaBetaFunctions, GammaAndBetaIdentities) {
     Float factorial = 1;  // (n - 1)!, exact up to 20!
     for (int n = 1; n <= 21; ++n) {
         EXPECT_LE(RelativeError(Kornummath::Gamma(n), factorial), 2 * Ulp) << n;
@@ -165,7 +165,7 @@ TEST(SpecialFunctions, GammaAndBetaIdentities) {
     EXPECT_TRUE(std::isnan(Kornummath::Beta(1, -2)));
 }
 
-TEST(SpecialFunctions, IncompleteBetaIdentitiesAndEdges) {
+TEST(GammaBetaFunctions, IncompleteBetaIdentitiesAndEdges) {
     for (Float x : {0.0L, 1e-30L, 0.125L, 0.3L, 0.5L, 0.9L, 1.0L}) {
         EXPECT_LE(std::fabs(Kornummath::IncompleteBeta(x, 1, 1) - x), 2 * Ulp * x) << double(x);
         // I_x(a, 1) = x^a, I_x(1, b) = 1 - (1 - x)^b.
@@ -196,7 +196,7 @@ TEST(SpecialFunctions, IncompleteBetaIdentitiesAndEdges) {
     EXPECT_TRUE(std::isnan(Kornummath::IncompleteBeta(0.5L, 2, -1)));
 }
 
-TEST(SpecialFunctions, InverseIncompleteBetaEdgesAndRoundTrips) {
+TEST(GammaBetaFunctions, InverseIncompleteBetaEdgesAndRoundTrips) {
     EXPECT_EQ(Kornummath::InverseIncompleteBeta(0, 2, 3), 0);
     EXPECT_EQ(Kornummath::InverseIncompleteBeta(1, 2, 3), 1);
     // I_x(1, 1) = x: the quantile carries the few ulps of the incomplete beta it inverts.
