@@ -190,10 +190,9 @@ std::string_view Unquote(std::string_view field, std::string& scratch) {
     return scratch;
 }
 
-// Calls visit(record, line) for every record of the text that is not blank, and returns
-// the number of the line after the text.
+// Calls visit(record, line) for every record of the text that is not blank.
 template <class Visit>
-std::size_t ForEachRecord(std::string_view text, std::size_t line, bool skipFirst, Visit visit) {
+void ForEachRecord(std::string_view text, std::size_t line, Visit visit) {
     const bool quoting = text.find('"') != std::string_view::npos;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = RecordEnd(text, start, quoting);
@@ -201,22 +200,17 @@ std::size_t ForEachRecord(std::string_view text, std::size_t line, bool skipFirs
         const std::size_t recordLine = line;
         line += 1 + (quoting ? std::size_t(std::count(record.begin(), record.end(), '\n')) : 0);
         start = end + 1;
-        if (skipFirst) {
-            skipFirst = false;
-            continue;
-        }
         if (!record.empty() && record.back() == '\r') record.remove_suffix(1);
         if (std::all_of(record.begin(), record.end(), IsSpace)) continue;
         visit(record, recordLine);
     }
-    return line;
 }
 
 // Field N of every non-blank record.
 void ReadRecords(std::string_view text, std::size_t line, const ReadOptions& options, NumberSink& sink) {
     const int wanted = options.field > 0 ? options.field : 1;
     std::string scratch;
-    ForEachRecord(text, line, false, [&](std::string_view record, std::size_t at) {
+    ForEachRecord(text, line, [&](std::string_view record, std::size_t at) {
         FieldWalker fields(record, options.delimiter);
         std::string_view field;
         int found = 0;
@@ -260,7 +254,7 @@ TKorFloatMatrix ReadMatrix(std::string_view text, const std::string& source, con
     if (options.header) text = AfterHeader(text, options, line);
     std::vector<std::vector<Float>> rows;
     std::string scratch;
-    ForEachRecord(text, line, false, [&](std::string_view record, std::size_t at) {
+    ForEachRecord(text, line, [&](std::string_view record, std::size_t at) {
         FieldWalker fields(record, options.delimiter);
         std::vector<Float> row;
         for (std::string_view field; fields.Next(field);)

@@ -67,10 +67,6 @@ struct Parameter {
     Float (*read)(const std::string& text, const std::string& name);
 };
 
-Float Positive(const std::string& t, const std::string& n) { return PositiveNumber(t, n); }
-Float Finite(const std::string& t, const std::string& n) { return FiniteNumber(t, n); }
-Float NonNegative(const std::string& t, const std::string& n) { return NonNegativeNumber(t, n); }
-Float Chance(const std::string& t, const std::string& n) { return Probability(t, n); }
 Float Degrees(const std::string& t, const std::string& n) {
     return Float(WholeNumber(t, n, 1, std::numeric_limits<Integer>::max()));
 }
@@ -112,25 +108,25 @@ const std::map<std::string, Distribution>& Distributions() {
         {"normal", {{}, [](P) { return Continuous([] { return Random_Normal(); }); }}},
         {"exponential", {{}, [](P) { return Continuous([] { return Random_Exponential(); }); }}},
         {"cauchy", {{}, [](P) { return Continuous([] { return Random_Cauchy(); }); }}},
-        {"gamma", {{{"shape", Positive}}, [](P p) { return Continuous([s = p[0]] { return Random_Gamma(s); }); }}},
+        {"gamma", {{{"shape", PositiveNumber}}, [](P p) { return Continuous([s = p[0]] { return Random_Gamma(s); }); }}},
         {"chisq", {{{"degrees of freedom", Degrees}},
                    [](P p) { return Continuous([n = Integer(p[0])] { return Random_ChiSq(n); }); }}},
-        {"weibull", {{{"shape A", Positive}}, [](P p) { return Continuous([a = p[0]] { return Random_Weibull(a); }); }}},
-        {"beta", {{{"shape A", Positive}, {"shape B", Positive}},
+        {"weibull", {{{"shape A", PositiveNumber}}, [](P p) { return Continuous([a = p[0]] { return Random_Weibull(a); }); }}},
+        {"beta", {{{"shape A", PositiveNumber}, {"shape B", PositiveNumber}},
                   [](P p) { return Continuous([a = p[0], b = p[1]] { return Random_Beta(a, b); }); }}},
         {"t", {{{"degrees of freedom", Degrees}},
                [](P p) { return Continuous([m = Integer(p[0])] { return Random_T(m); }); }}},
-        {"invgauss", {{{"index", Finite}, {"concentration", Positive}},
+        {"invgauss", {{{"index", FiniteNumber}, {"concentration", PositiveNumber}},
                       [](P p) { return Continuous([h = p[0], b = p[1]] { return Random_Inv_Gauss(h, b); }); }}},
         {"vonmises", {{{"concentration", Concentration}},
                       [](P p) { return Continuous([k = p[0]] { return Random_von_Mises(k); }); }}},
-        {"binomial", {{{"trials", Trials64}, {"probability", Chance}},
+        {"binomial", {{{"trials", Trials64}, {"probability", Probability}},
                       [](P p) { return Discrete([n = Int64(p[0]), q = p[1]] { return Random_Binomial2(n, q); }); }}},
-        {"binomial1", {{{"trials", Trials32}, {"probability", Chance}},
+        {"binomial1", {{{"trials", Trials32}, {"probability", Probability}},
                        [](P p) { return Discrete([n = Integer(p[0]), q = p[1]] { return Random_Binomial1(n, q); }); }}},
-        {"negbinomial", {{{"power", Positive}, {"probability", OpenChance}},
+        {"negbinomial", {{{"power", PositiveNumber}, {"probability", OpenChance}},
                          [](P p) { return Discrete([sk = p[0], q = p[1]] { return Random_Neg_Binomial(sk, q); }); }}},
-        {"poisson", {{{"mean", NonNegative}},
+        {"poisson", {{{"mean", NonNegativeNumber}},
                      [](P p) { return Discrete([mu = p[0]] { return Random_Poisson(mu); }); }}},
     };
     return table;
