@@ -18,10 +18,11 @@ namespace Platform {
 
 /// Raises a failure: looks up the text of `resource` in the table in force at this moment
 /// (`ResourceString::Text`) and throws `E` carrying exactly that text. `E` is
-/// `Platform::EMathError` unless a routine is documented to raise another class.
+/// `Platform::EMathError` unless a routine is documented to raise another class. The
+/// exception also carries `resource` itself (`Exception::Resource`).
 template <class E = EMathError>
 [[noreturn]] void Raise(const ResourceString& resource) {
-    throw E(resource.Text());
+    throw E(resource);
 }
 
 /// Raises `resource` as a `Platform::EMathError` (see `Raise`) unless `Holds` is true: the

@@ -29,9 +29,19 @@ template <class E = Platform::EMathError, class Call>
     return ::testing::AssertionFailure() << "raised nothing";
 }
 
+// The same for a failure raised from an identifier, which the exception must carry.
 template <class E = Platform::EMathError, class Call>
 ::testing::AssertionResult Raises(Call&& call, const Platform::ResourceString& message) {
-    return Raises<E>(call, message.Text());
+    try {
+        call();
+    } catch (const Platform::Exception& error) {
+        if (typeid(error) == typeid(E) && error.Message() == message.Text() && error.Resource() &&
+            error.Resource()->Id == message.Id)
+            return ::testing::AssertionSuccess();
+        return ::testing::AssertionFailure() << "raised " << typeid(error).name() << " \"" << error.Message()
+                                             << "\" from " << (error.Resource() ? error.Resource()->Name : "no identifier");
+    }
+    return ::testing::AssertionFailure() << "raised nothing";
 }
 
 // Each pair is (computed, expected), equal or within tolerance; every mismatch is named by
