@@ -149,4 +149,20 @@ TEST(PlatformRandom, SeedsGiveOneStreamAndValuesUseAll64Bits) {
     Platform::RandSeed(Platform::DefaultRandSeed);
 }
 
+// A stream of its own gives the global generator's values for the same seed and leaves
+// the global generator where it was.
+TEST(PlatformRandom, OwnStreamsRepeatTheGlobalStreamWithoutTouchingIt) {
+    Platform::RandSeed(99);
+    const std::uint64_t globalFirst = Platform::RandomBits();
+    const long double globalSecond = Platform::Random();
+    Platform::RandSeed(7);
+    Platform::TRandomStream a(99), b(99);
+    EXPECT_EQ(a.Bits(), globalFirst);
+    EXPECT_EQ(a.Random(), globalSecond);
+    EXPECT_EQ(b.Bits(), globalFirst);  // b did not move when a did
+    Platform::TRandomStream seven(7);
+    EXPECT_EQ(Platform::RandomBits(), seven.Bits());
+    Platform::RandSeed(Platform::DefaultRandSeed);
+}
+
 }  // namespace
