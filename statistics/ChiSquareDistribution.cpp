@@ -21,7 +21,8 @@ using Kornumglobals::KorTolerance;
 // X = A the terms fall like e^(-n^2 / 2A), so about 9.4 sqrt(A) of them reach 1e-19.
 constexpr int MaxSteps = 100000;
 
-// The quantiles sum their tails to the precision of the format, whatever the tolerance.
+// The chi-square functions and the quantiles sum their tails to the precision of the
+// format; only the incomplete gamma itself stops at the tolerance in force (KorTolerance).
 constexpr Float FullPrecision = special::Epsilon / 2;
 
 // ln Gamma(a) in TwoFloat: the Stirling form of the shifted argument less the log of the
@@ -164,16 +165,15 @@ void RequireGammaArguments(Float a, Float x) {
     if (x < 0) Platform::Raise(Kornum_RS_Math::rsValueGEZero);
 }
 
-// The lower or the upper regularised incomplete gamma at the tolerance in force, each
-// formed directly on its own side and as one minus the other where that is at least
+// The lower or the upper regularised incomplete gamma to `tolerance`, each formed directly on its own side and as one minus the other where that is at least
 // about one half. The lower tail's side reaches a standard deviation beyond A + 1 for
 // large shapes: the fraction converges slowly near A + 1, and the rounding of its many
 // steps would show in a lower tail of about one half.
-Float Regularised(Float a, Float x, bool upper, const TwoFloat& logGamma) {
+Float Regularised(Float a, Float x, bool upper, const TwoFloat& logGamma, Float tolerance) {
     if (x == 0) return upper ? 1 : 0;
     if (std::isinf(x)) return upper ? 0 : 1;
     const bool series = x < a + 1 || (!upper && a > LargeShape && x < a + 1 + std::sqrt(a));
-    const Float factor = series ? LowerSeries(a, x, KorTolerance) : UpperFraction(a, x, KorTolerance);
+    const Float factor = series ? LowerSeries(a, x, tolerance) : UpperFraction(a, x, tolerance);
     const Float tail = PowerExpOverGamma(a, x, logGamma) * factor;
     return series == upper ? 1 - tail : tail;
 }
@@ -320,22 +320,22 @@ Float ChiSquareQuantile(Float target, Integer df, bool upper) {
 
 Float IncompleteGamma(Float A, Float X) {
     RequireGammaArguments(A, X);
-    return Regularised(A, X, false, LogGammaFor(A));
+    return Regularised(A, X, false, LogGammaFor(A), KorTolerance);
 }
 
 Float IncompleteGamma2(Float A, Float X) {
     RequireGammaArguments(A, X);
-    return Kornummath::Gamma(A) * Regularised(A, X, false, LogGammaFor(A));
+    return Kornummath::Gamma(A) * Regularised(A, X, false, LogGammaFor(A), KorTolerance);
 }
 
 Float ChiSquareLess(Float ChiSq, Integer DF) {
     RequireChiSquare(ChiSq, DF);
-    return Regularised(Float(DF) / 2, ChiSq / 2, false, LogGammaOfHalf(DF));
+    return Regularised(Float(DF) / 2, ChiSq / 2, false, LogGammaOfHalf(DF), FullPrecision);
 }
 
 Float ChiSquareGreater(Float ChiSq, Integer DF) {
     RequireChiSquare(ChiSq, DF);
-    return Regularised(Float(DF) / 2, ChiSq / 2, true, LogGammaOfHalf(DF));
+    return Regularised(Float(DF) / 2, ChiSq / 2, true, LogGammaOfHalf(DF), FullPrecision);
 }
 
 // (x/2)^(k/2 - 1) e^(-x/2) / (2 Gamma(k/2)) = prefix(k/2, x/2) / x.
