@@ -6,6 +6,7 @@
 #include <kornum/NormalDistributions.h>
 #include <kornum/Platform.h>
 
+#include "core/detail/BaseLibraryInterface.hpp"
 #include "core/detail/ExtendedPrecision.hpp"
 #include "statistics/detail/PoissonTails.hpp"
 
@@ -245,6 +246,21 @@ Float BinomialLower(Float P, Cardinal N, Cardinal K) {
 Float BinomialUpper(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
     return BinomialAbove(P, N, K);
+}
+
+Float BinomialPoint(Float P, Cardinal N, Cardinal K) {
+    CheckBinomialParameters(P, N);
+    if (K > N) return 0;
+    if (P == 0 || P == 1) return K == (P == 0 ? 0 : N) ? 1 : 0;
+    namespace special = Kornummath::special;
+    const special::TwoFloat q = special::TwoSum(1, -P);  // 1 - P exactly
+    return special::BetaDensity({P, 0}, q, Float(K) + 1, Float(N - K) + 1) / (Float(N) + 1);
+}
+
+Float PoissonPoint(Float Lambda, Cardinal K) {
+    CheckPoissonMean(Lambda);
+    if (std::isinf(Lambda)) return 0;
+    return detail::ScaledExp(detail::PoissonPointExponent(Float(K), Lambda), 1);
 }
 
 Float PoissonLower(Float Lambda, Cardinal K) {

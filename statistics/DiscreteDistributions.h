@@ -117,6 +117,22 @@ Float PoissonLower(Float Lambda, Cardinal K);
 Float PoissonUpper(Float Lambda, Cardinal K);
 /// @}
 
+/// @name Accurate binomial and Poisson point probabilities
+/// P(X = K) to full relative accuracy for every K, however large N, Lambda and K are and
+/// however small the probability: the binomial one as the Beta(K + 1, N - K + 1) density
+/// at P (formed from P and the exact 1 - P, without factorials) over N + 1; the Poisson
+/// one as the exponential of its logarithm in two Floats, from K = 15 on by Stirling's
+/// series in the deviance form, free of the cancellation between K ln Lambda, Lambda and
+/// ln K!. Failures as for the accurate tails (parameters only).
+/// @{
+
+/// P(X = `K`) for X binomial with `N` trials and success probability `P`: 0 for K > N.
+/// BinomialPoint(0.5, 4, 2) is 0.375.
+Float BinomialPoint(Float P, Cardinal N, Cardinal K);
+/// P(Y = `K`) for Y Poisson with mean `Lambda`. PoissonPoint(1000, 2000) is about 1.5e-170.
+Float PoissonPoint(Float Lambda, Cardinal K);
+/// @}
+
 // ---- Quantiles --------------------------------------------------------------------------
 
 /// @name Binomial and Poisson quantiles

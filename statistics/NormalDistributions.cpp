@@ -236,6 +236,34 @@ Float InvNormalLess(Float P) {
 
 Float InvNormalGreater(Float P) { return InvNormalLess(1 - P); }
 
+namespace {
+
+// The z >= 0 with P(N > z) = t, for 0 < t <= 1/2: AS 241's value, then Newton steps on
+// the accurate tail until a step no longer changes z beyond rounding (one, except below
+// the tails AS 241 was made for).
+Float UpperTailQuantile(Float t) {
+    Float z = -InvNormalLess(t);
+    for (int step = 0; step < 8; ++step) {
+        const Float density = std::exp(-z * z / 2) / std::sqrt(TwoPi);
+        const Float change = (NormalUpper(z) - t) / density;
+        z += change;
+        if (std::fabs(change) <= 1e-12L * z) break;
+    }
+    return z;
+}
+
+}  // namespace
+
+Float InvNormalLower(Float P) {
+    CheckOpenProbability(P);
+    return P <= 0.5L ? -UpperTailQuantile(P) : UpperTailQuantile(1 - P);
+}
+
+Float InvNormalUpper(Float Q) {
+    CheckOpenProbability(Q);
+    return Q <= 0.5L ? UpperTailQuantile(Q) : -UpperTailQuantile(1 - Q);
+}
+
 Float NormalPDF(Float X, Float Mean, Float StdDev) {
     CheckForwardStdDev(StdDev);
     return GaussianKernel(X - Mean, StdDev) / (std::sqrt(TwoPi) * StdDev);

@@ -167,5 +167,21 @@ Float LogNormalLower(Float Mean, Float StdDev, Float X);
 Float LogNormalUpper(Float Mean, Float StdDev, Float X);
 /// @}
 
+/// @name Accurate normal quantiles
+/// The z with P(N <= z) = `P` (`InvNormalLower`) or with P(N > z) = `Q`
+/// (`InvNormalUpper`), N standard normal, to the last bits however small the tail: the
+/// smaller tail's quantile by `InvNormalLess`, refined by Newton steps on that tail
+/// (`NormalUpper`), one of which takes its relative error of about 1e-16 below the
+/// format's rounding. InvNormalUpper(1e-300) is about 37.047. Failures
+/// (Platform::EMathError): a probability outside (0, 1) raises
+/// Kornum_RS_Math::rsValue01.
+/// @{
+
+/// The z with P(N <= z) = `P`.
+Float InvNormalLower(Float P);
+/// The z with P(N > z) = `Q`, from the upper tail itself.
+Float InvNormalUpper(Float Q);
+/// @}
+
 }  // namespace KornumStatistics
 KORNUM_EXPORT_END

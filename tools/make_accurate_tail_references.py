@@ -149,6 +149,9 @@ def discrete_rows():
                     continue
                 rows.append(["binomial_lower", text(p), str(n), str(k)] + pair(lower))
                 rows.append(["binomial_upper", text(p), str(n), str(k)] + pair(upper))
+                point = mp.binomial(n, k) * p**k * (1 - p) ** (n - k)
+                if representable(point):
+                    rows.append(["binomial_point", text(p), str(n), str(k)] + pair(point))
     p = exact("0.3")  # P(X > 90) for 100 trials at 0.3, about 2.1e-37
     rows.append(["binomial_upper", text(p), "100", "90"] + pair(binomial_tails(p, 100, 90)[1]))
     means = ["1e-300", "1e-10", "0.01", "0.5", "1", "3", "4", "47.25", "100", "199.5", "1000",
@@ -162,6 +165,9 @@ def discrete_rows():
                 continue
             rows.append(["poisson_lower", text(lam), str(k)] + pair(lower))
             rows.append(["poisson_upper", text(lam), str(k)] + pair(upper))
+            point = mp.exp(-lam + k * mp.log(lam) - mp.loggamma(k + 1))
+            if representable(point):
+                rows.append(["poisson_point", text(lam), str(k)] + pair(point))
     # Large means, near the centre where the uniform expansion applies and at its edges.
     for ltext, steps in [("1e7", [-40, -3, 0, 2, 30]), ("4e9", [-6, -1, 0, 1, 6])]:
         lam = exact(ltext)
@@ -214,6 +220,34 @@ def normal_rows():
             for kind, value in [("lognormal_lower", mp.ncdf(z)), ("lognormal_upper", mp.ncdf(-z))]:
                 if representable(value):
                     rows.append([kind, hexfloat(mean), hexfloat(sd), hexfloat(x)] + pair(value))
+    return rows
+
+
+def normal_quantile(level, upper):
+    """The z with P(N <= z) = level, or P(N > z) = level: Newton on the logarithm of the
+    smaller tail, from the tail's asymptotic start."""
+    t = min(level, 1 - level)
+    z = mp.sqrt(2 * mp.log(1 / t)) if t < mp.mpf("0.3") else mp.mpf(0.5)
+    for _ in range(200):
+        step = (mp.log(mp.ncdf(-z)) - mp.log(t)) * mp.ncdf(-z) / mp.npdf(z)
+        z += step
+        if abs(step) < mp.mpf(2) ** -190 * max(z, 1):
+            break
+    below = level < mp.mpf(1) / 2
+    return (z if below else -z) if upper else (-z if below else z)
+
+
+def normal_quantile_rows():
+    """InvNormalLower and InvNormalUpper at tails from the smallest normal Float to 1/2 and
+    at their complements."""
+    rows = []
+    levels = ["1e-4931", "1e-1000", "1e-300", "1e-100", "1e-20", "1e-7", "0.001", "0.025", "0.1",
+              "0.3", "0.4999999", "0.5", "0.6", "0.9", "0.975", "0.999", "0.9999999"]
+    for text_level in levels:
+        level = exact(text_level)
+        for kind, upper in [("normal_inv_lower", False), ("normal_inv_upper", True)]:
+            z = normal_quantile(level, upper) if level != mp.mpf(1) / 2 else mp.mpf(0)
+            rows.append([kind, hexfloat(level)] + pair(z))
     return rows
 
 
@@ -275,7 +309,7 @@ def write(name, header, rows):
 if __name__ == "__main__":
     write("distributions_accurate_tails.tsv",
           "kind, arguments in the routine's order, reference as a Float and the remainder",
-          normal_rows() + discrete_rows())
+          normal_rows() + normal_quantile_rows() + discrete_rows())
     write("distributions_discrete_quantiles.tsv",
           "kind, parameters in the routine's order, level Alpha, the smallest count reaching it",
           quantile_rows())
