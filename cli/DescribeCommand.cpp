@@ -4,6 +4,7 @@
 #include "Options.h"
 #include "Output.h"
 #include "Parameters.h"
+#include "frontend/ReportText.h"
 
 #include <kornum/KornumDescStats.h>
 
@@ -92,14 +93,7 @@ int Describe(const DescribeSettings& s, const std::vector<std::string>& operands
     } else if (s.decimals >= 0) {
         out.Write(stats.DescStats()->Text());  // the component's report, as it defines it
     } else {
-        for (const auto& entry : stats.ReportEntries()) {
-            out.Write(entry.Caption);
-            if (entry.Value) {
-                out.Write('\t');
-                out.Write(NumberText(*entry.Value, entry.Integral ? 0 : -1));
-            }
-            out.Write('\n');
-        }
+        out.Write(KornumFrontend::ShortestReportText(stats.ReportEntries()));
     }
     return 0;
 }

@@ -3,14 +3,13 @@
 #include "Options.h"
 #include "Output.h"
 #include "Parameters.h"
+#include "frontend/DistributionFamilies.h"
 
 #include <kornum/KornumStatistics.h>
 #include <kornum/PlatformExceptions.h>
 
 #include <cmath>
-#include <functional>
 #include <limits>
-#include <map>
 
 namespace KornumCli {
 namespace {
@@ -48,12 +47,7 @@ CommandTable DistTable(DistSettings& s) {
         ""};
 }
 
-// How a parameter is read and checked, and the name a message gives it.
-enum class Kind { Real, Positive, Degrees, Trials, Probability };
-struct Parameter {
-    const char* name;
-    Kind kind;
-};
+using namespace KornumFrontend;
 
 Float ReadParameter(const std::string& text, const Parameter& p) {
     switch (p.kind) {
@@ -64,110 +58,6 @@ Float ReadParameter(const std::string& text, const Parameter& p) {
         case Kind::Probability: return Probability(text, p.name);
     }
     return 0;
-}
-
-using Values = std::vector<Float>;
-using Function = std::function<Float(Float, const Values&)>;
-
-// One family: its parameters (the last `optional` of them may be left out together), its
-// functions of (value, parameters) and the check of its density table.
-struct Family {
-    std::vector<Parameter> parameters;
-    std::size_t optional;
-    bool discrete;
-    Function less, greater, pdf, inv, isf;
-    std::function<void(Float, Float, const Values&)> checkTable;
-};
-
-Integer Whole(Float x) { return Integer(x); }
-Cardinal Count(Float x) { return Cardinal(x); }
-Float Lo(const Values& p) { return p.size() > 2 ? p[2] : 0; }  // the beta's bounds, [0, 1] by default
-Float Hi(const Values& p) { return p.size() > 2 ? p[3] : 1; }
-
-// The density table's own checks, on a two-point table: the command streams the points.
-template <class Table>
-std::function<void(Float, Float, const Values&)> TableCheck(Table table) {
-    return [table](Float lo, Float hi, const Values& p) {
-        TKorFloatVector X, Y;
-        table(lo, hi, p, X, Y);
-    };
-}
-
-const std::map<std::string, Family>& Families() {
-    using P = const Values&;
-    using V = TKorFloatVector&;
-    const Parameter mean{"mean", Kind::Real}, sd{"standard deviation", Kind::Positive},
-        df{"degrees of freedom", Kind::Degrees};
-    static const std::map<std::string, Family> families{
-        {"normal",
-         {{mean, sd}, 0, false, [](Float x, P p) { return NormalDistLower(p[0], p[1], x); },
-          [](Float x, P p) { return NormalDistUpper(p[0], p[1], x); },
-          [](Float x, P p) { return NormalPDF(x, p[0], p[1]); },
-          [](Float q, P p) { return InvNormalDistLess(p[0], p[1], q); },
-          // By symmetry, from the lower inverse of the small Q itself.
-          [](Float q, P p) { return p[0] - p[1] * InvNormalLess(q); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { NormalPDFValues(lo, hi, 2, p[0], p[1], X, Y); })}},
-        {"lognormal",
-         {{mean, sd}, 0, false, [](Float x, P p) { return LogNormalLower(p[0], p[1], x); },
-          [](Float x, P p) { return LogNormalUpper(p[0], p[1], x); },
-          [](Float x, P p) { return LogNormalPDF(x, p[0], p[1]); },
-          [](Float q, P p) { return InvLogNormalLess(p[0], p[1], q); },
-          [](Float q, P p) { return std::exp(p[0] - p[1] * InvNormalLess(q)); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { LogNormalPDFValues(lo, hi, 2, p[0], p[1], X, Y); })}},
-        {"chisq",
-         {{df}, 0, false, [](Float x, P p) { return ChiSquareLess(x, Whole(p[0])); },
-          [](Float x, P p) { return ChiSquareGreater(x, Whole(p[0])); },
-          [](Float x, P p) { return ChiSquarePDF(x, Whole(p[0])); },
-          [](Float q, P p) { return InvChiSquareLess(q, Whole(p[0])); },
-          [](Float q, P p) { return InvChiSquareGreater(q, Whole(p[0])); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { ChiSquarePDFValues(lo, hi, 2, Whole(p[0]), X, Y); })}},
-        {"t",
-         {{df}, 0, false, [](Float x, P p) { return StudentTLess(x, Whole(p[0])); },
-          [](Float x, P p) { return StudentTGreater(x, Whole(p[0])); },
-          [](Float x, P p) { return StudentTPDF(x, Whole(p[0])); },
-          [](Float q, P p) { return InvStudentTLess(q, Whole(p[0])); },
-          [](Float q, P p) { return InvStudentTGreater(q, Whole(p[0])); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { StudentTPDFValues(lo, hi, 2, Whole(p[0]), X, Y); })}},
-        {"f",
-         {{{"numerator degrees of freedom", Kind::Degrees}, {"denominator degrees of freedom", Kind::Degrees}},
-          0, false, [](Float x, P p) { return FDistLess(x, Whole(p[0]), Whole(p[1])); },
-          [](Float x, P p) { return FDistGreater(x, Whole(p[0]), Whole(p[1])); },
-          [](Float x, P p) { return FDistPDF(x, Whole(p[0]), Whole(p[1])); },
-          [](Float q, P p) { return InvFDistLess(q, Whole(p[0]), Whole(p[1])); },
-          [](Float q, P p) { return InvFDistGreater(q, Whole(p[0]), Whole(p[1])); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { FDistPDFValues(lo, hi, 2, Whole(p[0]), Whole(p[1]), X, Y); })}},
-        {"beta",
-         {{{"shape A", Kind::Positive}, {"shape B", Kind::Positive}, {"lower bound", Kind::Real},
-           {"upper bound", Kind::Real}},
-          2, false, [](Float x, P p) { return BetaDistLess(x, p[0], p[1], Lo(p), Hi(p)); },
-          [](Float x, P p) { return BetaDistGreater(x, p[0], p[1], Lo(p), Hi(p)); },
-          [](Float x, P p) { return BetaPDF(x, p[0], p[1], Lo(p), Hi(p)); },
-          [](Float q, P p) { return InvBetaDistLess(q, p[0], p[1], Lo(p), Hi(p)); },
-          [](Float q, P p) { return InvBetaDistGreater(q, p[0], p[1], Lo(p), Hi(p)); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { BetaPDFValues(lo, hi, 2, p[0], p[1], Lo(p), Hi(p), X, Y); })}},
-        {"exponential",
-         {{{"rate", Kind::Positive}}, 0, false, [](Float x, P p) { return ExponentialLess(x, p[0]); },
-          [](Float x, P p) { return ExponentialGreater(x, p[0]); }, [](Float x, P p) { return ExponentialPDF(x, p[0]); },
-          [](Float q, P p) { return InvExponentialLess(q, p[0]); },
-          [](Float q, P p) { return InvExponentialGreater(q, p[0]); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { ExponentialPDFValues(lo, hi, 2, p[0], X, Y); })}},
-        {"binomial",
-         {{{"trials", Kind::Trials}, {"probability", Kind::Probability}}, 0, true,
-          [](Float k, P p) { return BinomialLower(p[1], Count(p[0]), Count(k)); },
-          [](Float k, P p) { return BinomialUpper(p[1], Count(p[0]), Count(k)); },
-          [](Float k, P p) { return BinomialEq(p[1], Count(p[0]), Count(k)); },
-          [](Float a, P p) { return Float(InvBinomialLess(p[1], Count(p[0]), a)); },
-          [](Float a, P p) { return Float(InvBinomialGreater(p[1], Count(p[0]), a)); },
-          [](Float, Float, P p) { BinomialEq(p[1], Count(p[0]), 0); }}},
-        {"poisson",
-         {{{"mean", Kind::Positive}}, 0, true, [](Float k, P p) { return PoissonLower(p[0], Count(k)); },
-          [](Float k, P p) { return PoissonUpper(p[0], Count(k)); },
-          [](Float k, P p) { return PoissonEq(p[0], Count(k)); },
-          [](Float a, P p) { return Float(InvPoissonLess(p[0], a)); },
-          [](Float a, P p) { return Float(InvPoissonGreater(p[0], a)); },
-          [](Float, Float, P p) { PoissonEq(p[0], 0); }}},
-    };
-    return families;
 }
 
 // Streams the table: a line at a time, in constant memory, each point as the library's

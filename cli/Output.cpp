@@ -5,23 +5,9 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <charconv>
-#include <cmath>
 #include <cstring>
 
 namespace KornumCli {
-
-std::string NumberText(Float x, int decimals) {
-    if (std::isnan(x)) return "nan";
-    if (std::isinf(x)) return x < 0 ? "-inf" : "inf";
-    // Fixed notation of an 80-bit value needs at most 4933 integer digits.
-    std::string text(64 + (decimals < 0 ? 0 : 4933 + std::size_t(decimals)), '\0');
-    const auto result = decimals < 0 ? std::to_chars(text.data(), text.data() + text.size(), x)
-                                     : std::to_chars(text.data(), text.data() + text.size(), x,
-                                                     std::chars_format::fixed, decimals);
-    text.resize(std::size_t(result.ptr - text.data()));
-    return text;
-}
 
 std::string Quoted(std::string_view text) {
     constexpr std::size_t Shown = 40;

@@ -2,6 +2,8 @@
 // checked writing of standard output.
 #pragma once
 
+#include "frontend/NumberText.h"
+
 #include <kornum/Kornumglobals.h>
 
 #include <stdexcept>
@@ -12,10 +14,7 @@ namespace KornumCli {
 
 using Kornumglobals::Float;
 
-// A number as text: with Decimals < 0 the shortest form that reads back as the same
-// Float (an exponent when that is shorter), otherwise fixed with that many decimals.
-// Infinities and NaN read "inf", "-inf" and "nan".
-std::string NumberText(Float x, int decimals = -1);
+using KornumFrontend::NumberText;
 
 // A text the user gave, for a message: in single quotes, control bytes and bytes that are
 // not UTF-8 escaped as \xNN, cut after 40 characters with "...".

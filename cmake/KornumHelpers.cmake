@@ -13,10 +13,12 @@ function(kornum_public_headers)
   endforeach()
 endfunction()
 
-# A shared library of the package: exported as kornum::<EXPORT_NAME>. Symbols are hidden
-# unless the public headers export them (KORNUM_EXPORT_BEGIN in <kornum/KornumExport.h>).
+# A library of the package: exported as kornum::<EXPORT_NAME>. Symbols are hidden unless
+# the public headers export them (KORNUM_EXPORT_BEGIN in <kornum/KornumExport.h>). Shared,
+# except in the Python package's build, which links them into its module.
+set(KORNUM_LIBRARY_TYPE SHARED CACHE STRING "SHARED, or STATIC to link the libraries into one module")
 function(kornum_library target export_name)
-  add_library(${target} SHARED)
+  add_library(${target} ${KORNUM_LIBRARY_TYPE})
   add_library(kornum::${export_name} ALIAS ${target})
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${export_name}
