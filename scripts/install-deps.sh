@@ -13,6 +13,7 @@ packages=(
   python3-mpmath                  # regenerating the reference tables
   python3-numpy python3-scipy     # the random variates' distribution tests
   doxygen                         # the API reference (the docs target)
+  python3-venv                    # the Python package's test environment
 )
 # With --bench: also what the whole-program benchmark compares against.
 if [ "${1:-}" = "--bench" ]; then
