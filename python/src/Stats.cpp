@@ -68,36 +68,33 @@ py::array_t<Float> FromArray(const Float* values, std::size_t n) {
     return result;
 }
 
+// The library's statistics of a Float vector with one result, or with two (the one-pass
+// forms: the spread and the mean).
+using OneResult = Float (*)(const TKorFloatVector&);
+using TwoResults = void (*)(const TKorFloatVector&, Float&, Float&);
+
+auto Statistic(OneResult statistic) { return OfVector(statistic); }
+auto Statistic(TwoResults statistic) {
+    return OfVector([statistic](const TKorFloatVector& v) {
+        std::pair<Float, Float> r;
+        statistic(v, r.first, r.second);
+        return r;
+    });
+}
+
 void BindSampleStatistics(py::module_& m) {
-    m.def("mean", OfVector([](const TKorFloatVector& v) { return KorMean(v); }));
-    m.def("sample_variance", OfVector([](const TKorFloatVector& v) { return SampleVariance(v); }));
-    m.def("population_variance", OfVector([](const TKorFloatVector& v) { return PopulationVariance(v); }));
-    m.def("sample_sd", OfVector([](const TKorFloatVector& v) { return SampleStdDev(v); }));
-    m.def("population_sd", OfVector([](const TKorFloatVector& v) { return PopulationStdDev(v); }));
-    using Pair = std::pair<Float, Float>;
-    m.def("sample_variance_and_mean", OfVector([](const TKorFloatVector& v) {
-              Pair r;
-              SampleVarianceAndMean(v, r.first, r.second);
-              return r;
-          }));
-    m.def("population_variance_and_mean", OfVector([](const TKorFloatVector& v) {
-              Pair r;
-              PopulationVarianceAndMean(v, r.first, r.second);
-              return r;
-          }));
-    m.def("sample_sd_and_mean", OfVector([](const TKorFloatVector& v) {
-              Pair r;
-              SampleStdDevAndMean(v, r.first, r.second);
-              return r;
-          }));
-    m.def("population_sd_and_mean", OfVector([](const TKorFloatVector& v) {
-              Pair r;
-              PopulationStdDevAndMean(v, r.first, r.second);
-              return r;
-          }));
-    m.def("geometric_mean", OfVector([](const TKorFloatVector& v) { return GeometricMean(v); }));
-    m.def("harmonic_mean", OfVector([](const TKorFloatVector& v) { return HarmonicMean(v); }));
-    m.def("rms", OfVector([](const TKorFloatVector& v) { return RootMeanSquare(v); }));
+    m.def("mean", Statistic(KorMean));
+    m.def("sample_variance", Statistic(SampleVariance));
+    m.def("population_variance", Statistic(PopulationVariance));
+    m.def("sample_sd", Statistic(SampleStdDev));
+    m.def("population_sd", Statistic(PopulationStdDev));
+    m.def("sample_variance_and_mean", Statistic(SampleVarianceAndMean));
+    m.def("population_variance_and_mean", Statistic(PopulationVarianceAndMean));
+    m.def("sample_sd_and_mean", Statistic(SampleStdDevAndMean));
+    m.def("population_sd_and_mean", Statistic(PopulationStdDevAndMean));
+    m.def("geometric_mean", Statistic(GeometricMean));
+    m.def("harmonic_mean", Statistic(HarmonicMean));
+    m.def("rms", Statistic(RootMeanSquare));
     m.def("mean_deviation", [](py::handle x, Real mean) { return Result(MeanDeviation(ToVector(x, "x"), mean)); });
     m.def("standardise", [](py::handle x, Real mean, Real sd, Real newMean, Real newSd) {
         TKorFloatVector v = ToVector(x, "x");
