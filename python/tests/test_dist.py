@@ -191,3 +191,21 @@ def test_parameters_are_checked_by_name():
         Normal("a", 1)
     assert repr(Beta(2, 3)) == "Beta(a=2.0, b=3.0, lo=0.0, hi=1.0)"
     assert issubclass(MathError, ArithmeticError)
+
+
+def test_calls_from_several_threads_give_the_results_of_one():
+    from concurrent.futures import ThreadPoolExecutor
+
+    import kornum
+
+    x = np.linspace(0.01, 30, 200000).astype(np.longdouble)
+    calls = [lambda: ChiSquare(5).sf(x), lambda: StudentT(3).isf(x / 31), lambda: kornum.describe(x).to_dict(),
+             lambda: Beta(2, 3).cdf(x / 31)]
+    alone = [call() for call in calls]
+    with ThreadPoolExecutor(4) as pool:
+        together = list(pool.map(lambda call: call(), calls * 2))
+    for got, expected in zip(together, alone * 2):
+        if isinstance(expected, dict):
+            assert got == expected
+        else:
+            assert np.array_equal(got, expected)
