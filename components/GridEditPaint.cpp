@@ -89,8 +89,12 @@ void TKorCustomGridEdit::PaintCells(Platform::TCanvas& Canvas, const Layout& At,
         DrawCellText(Canvas, ColTitle(c), x, x + At.colWidth, 0, At.rowHeight, LineHeight, TextFlags::Center, Platform::clWindowText);
         for (Integer r = topRow_; r - topRow_ < rows; ++r) {
             const Float value = ReadCell(r, c);
-            DrawCellText(Canvas, detail::ValueText(value, decimals_), x, x + At.colWidth, rowTop(r), At.rowHeight, LineHeight,
-                     TextFlags::Right, std::isnan(value) ? Platform::clGrayText : Platform::clWindowText);
+            const std::string text = detail::ValueText(value, decimals_);
+            // A value too wide for its cell shows its leading digits.
+            const bool fits = Canvas.TextWidth(text) <= At.colWidth - 2 * Pad;
+            DrawCellText(Canvas, text, x, x + At.colWidth, rowTop(r), At.rowHeight, LineHeight,
+                         fits ? TextFlags::Right : TextFlags::Left,
+                         std::isnan(value) ? Platform::clGrayText : Platform::clWindowText);
         }
     }
     // Row titles, then labels (a row without one shows the not-available text).
