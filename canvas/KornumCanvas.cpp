@@ -165,24 +165,32 @@ void TKorCairoCanvas::UseFont() {
                            font.Style & Platform::fsItalic ? CAIRO_FONT_SLANT_ITALIC : CAIRO_FONT_SLANT_NORMAL,
                            font.Style & Platform::fsBold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
     cairo_set_font_size(cr_, font.Size * PixelsPerPoint);
+    cairo_font_extents_t extents;
+    cairo_font_extents(cr_, &extents);
+    ascent_ = extents.ascent;
+    descent_ = extents.descent;
+    height_ = extents.height;
     usedFont_.Assign(font);
     fontSet_ = true;
+    measuredWidth_ = -1;
 }
 
 std::int32_t TKorCairoCanvas::TextWidth(std::string_view Text) {
     UseFont();
+    if (measuredWidth_ >= 0 && Text == measured_ && TextEncoding() == measuredEncoding_) return measuredWidth_;
     const std::string utf8 = Platform::TextToUtf8(Text, Font().Name, TextEncoding());
     CheckGlyphs(cr_, utf8, Font().Name);
     cairo_text_extents_t extents;
     cairo_text_extents(cr_, utf8.c_str(), &extents);
-    return std::int32_t(std::lround(extents.x_advance));
+    measured_.assign(Text);
+    measuredEncoding_ = TextEncoding();
+    measuredWidth_ = std::int32_t(std::lround(extents.x_advance));
+    return measuredWidth_;
 }
 
 std::int32_t TKorCairoCanvas::LineHeight() {
     UseFont();
-    cairo_font_extents_t font;
-    cairo_font_extents(cr_, &font);
-    return std::int32_t(std::ceil(font.height));
+    return std::int32_t(std::ceil(height_));
 }
 
 std::int32_t TKorCairoCanvas::DrawText(std::string_view Text, Platform::TRect& Rect, std::uint32_t Flags) {
@@ -196,10 +204,8 @@ std::int32_t TKorCairoCanvas::DrawText(std::string_view Text, Platform::TRect& R
     double x = Rect.Left;
     if (Flags & Platform::TextFlags::Center) x += (Rect.Width() - width) / 2.0;
     else if (Flags & Platform::TextFlags::Right) x = Rect.Right - width;
-    cairo_font_extents_t font;
-    cairo_font_extents(cr_, &font);
     drawnRight_ = std::max(drawnRight_, std::int32_t(std::ceil(x)) + width);
-    ShowText(Platform::TextToUtf8(bytes, Font().Name, TextEncoding()), x, Rect.Top + font.ascent, width,
+    ShowText(Platform::TextToUtf8(bytes, Font().Name, TextEncoding()), x, Rect.Top + ascent_, width,
              Resolve(Font().Color));
     return height;
 }
@@ -210,10 +216,8 @@ void TKorCairoCanvas::ShowText(const std::string& Utf8, double X, double Baselin
     cairo_move_to(cr_, X, Baseline);
     cairo_show_text(cr_, Utf8.c_str());
     if (!(Font().Style & (Platform::fsUnderline | Platform::fsStrikeOut))) return;
-    cairo_font_extents_t font;
-    cairo_font_extents(cr_, &font);
-    cairo_set_line_width(cr_, std::max(1.0, font.height / 16));
-    const double under = Baseline + font.descent / 2, through = Baseline - font.ascent / 3;
+    cairo_set_line_width(cr_, std::max(1.0, height_ / 16));
+    const double under = Baseline + descent_ / 2, through = Baseline - ascent_ / 3;
     for (auto [style, y] : {std::pair{Platform::fsUnderline, under}, {Platform::fsStrikeOut, through}}) {
         if (!(Font().Style & style)) continue;
         cairo_move_to(cr_, X, y);

@@ -138,8 +138,14 @@ protected:
 private:
     void UseFont();
     _cairo* cr_;
+    // The font Cairo is set to, with its extents, and the text measured last: a control
+    // that measures a text and then draws it has it measured once.
     Platform::TFont usedFont_;
     bool fontSet_ = false;
+    double ascent_ = 0, descent_ = 0, height_ = 0;
+    std::string measured_;
+    Platform::TTextEncoding measuredEncoding_ = Platform::TTextEncoding::Latin1;
+    std::int32_t measuredWidth_ = -1;
     std::int32_t drawnRight_ = 0;
 };
 
