@@ -207,6 +207,7 @@ Boolean TKorCustomGridEdit::CommitEdit() {
     }
     WriteCell(row_, col_, *value);
     CancelEdit();
+    Changed();
     return true;
 }
 
@@ -302,6 +303,7 @@ void TKorCustomGridEdit::NavigationKey(Word& Key, Platform::TShiftState Shift) {
             const TGridRect block = Selection();
             for (Integer r = block.Top; r <= block.Bottom; ++r)
                 for (Integer c = block.Left; c <= block.Right; ++c) WriteCell(r, c, std::numeric_limits<Float>::quiet_NaN());
+            Changed();
             break;
         }
         case Platform::vkA:

@@ -59,8 +59,9 @@ std::string TKorCustomGridEdit::CopyText() {
 
 void TKorCustomGridEdit::PasteText(std::string_view Text) {
     if (readOnly_ || !HasCells()) return;
-    if (!CommitEdit()) CancelEdit();
     const std::vector<std::string_view> lines = Lines(Text);
+    if (editing_ && lines.size() == 1 && lines[0].find('\t') == std::string_view::npos) return TextInput(lines[0]);
+    CancelEdit();
     const std::int64_t rows = GridRows(), cols = GridCols();
     // Everything is read and placed before the first write.
     std::vector<std::vector<Float>> block;
@@ -91,6 +92,7 @@ void TKorCustomGridEdit::PasteText(std::string_view Text) {
         for (std::size_t j = 0; j < block[i].size(); ++j) WriteCell(row_ + Integer(i), col_ + Integer(j), block[i][j]);
     anchorRow_ = row_ + Integer(block.size()) - 1;
     anchorCol_ = col_ + widest - 1;
+    Changed();
 }
 
 }  // namespace KornumGridEdit

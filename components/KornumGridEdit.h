@@ -12,6 +12,7 @@
 #include <kornum/PlatformInput.h>
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -167,12 +168,17 @@ public:
     /// (whatever `Decimals` says), null values as `KorNullStr`. Empty for an empty grid.
     std::string CopyText();
     /// Writes a block of tab-separated lines (a line feed or CR LF between them) with its
-    /// top left corner at the current cell, and selects it. All of the text is read before
+    /// top left corner at the current cell, and selects it; into an open edit, a text of
+    /// one value without a line end goes in at the caret instead. All of the text is read before
     /// anything is written: a token that is not a number (an empty one or `KorNullStr` is
     /// null) raises `Platform::EMathError` naming its row, column and text, and so does a
     /// block that reaches beyond the last row or column, naming where; nothing is changed
     /// then. A read-only grid ignores it.
     void PasteText(std::string_view Text);
+
+    /// Called after input changed values: a commit, Delete or a paste (not the accessors
+    /// of the controls); may be empty.
+    std::function<void(TKorCustomGridEdit& Sender)> OnChange;
 
     /// The published properties: ColWidth, Decimals, ReadOnly, RowHeight, VirtualMode.
     std::span<const Platform::TPropertyInfo> PublishedProperties() const override;
@@ -214,6 +220,9 @@ private:
     bool HasCells() const { return GridRows() > 0 && GridCols() > 0; }
     void PaintCells(Platform::TCanvas& Canvas, const Layout& At, Integer LineHeight);
     void PaintEdit(Platform::TCanvas& Canvas, const Layout& At, Integer LineHeight);
+    void Changed() {
+        if (OnChange) OnChange(*this);
+    }
 
     Platform::TFont font_;
     Platform::TRect bounds_{0, 0, 200, 150};

@@ -105,7 +105,8 @@ public:
     Platform::TStringList& Labels() noexcept { return labels_; }
     /// The labels, line i for element i.
     const Platform::TStringList& Labels() const noexcept { return labels_; }
-    /// Exchanges elements I and J and their labels.
+    /// Exchanges elements I and J and their labels (in virtual mode only the values: the
+    /// labels are the event's).
     void SwapElements(Integer I, Integer J) override;
 
     /// The width of the label column in pixels; 120 by default.

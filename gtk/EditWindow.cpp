@@ -101,7 +101,7 @@ void Activate(GtkApplication* application, gpointer data) {
     gtk_box_append(GTK_BOX(box), state->status);
     gtk_window_set_child(GTK_WINDOW(state->window), box);
 
-    state->host->OnInput = [state] {
+    state->document.Grid().OnChange = [state](KornumGridEdit::TKorCustomGridEdit&) {
         state->changed = true;
         state->ShowTitle();
     };

@@ -48,7 +48,7 @@ Platform::TShiftState ShiftState(GdkModifierType state) {
 }
 
 // Runs an input on the grid; what it raises is shown to the user instead of crossing
-// GTK's C frames. The grid is repainted and the program told.
+// GTK's C frames. The grid is repainted when it took the input.
 template <class Input>
 bool Deliver(TKorGridHost& host, Input&& input) {
     bool handled = false;
@@ -58,10 +58,8 @@ bool Deliver(TKorGridHost& host, Input&& input) {
         Kornummsgs::ErrorMsg(error.what());
         handled = true;
     }
-    if (!handled) return false;
-    host.Refresh();
-    if (host.OnInput) host.OnInput();
-    return true;
+    if (handled) host.Refresh();
+    return handled;
 }
 
 TKorGridHost& HostOf(gpointer data) { return *static_cast<TKorGridHost*>(data); }

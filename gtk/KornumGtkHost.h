@@ -9,8 +9,6 @@
 
 #include <gtk/gtk.h>
 
-#include <functional>
-
 /// The GTK host module (library kornum_gtk): the grid edits in a GTK 4 window.
 KORNUM_EXPORT_BEGIN
 namespace KornumGtkHost {
@@ -43,10 +41,6 @@ public:
     KornumGridEdit::TKorCustomGridEdit& Grid() const noexcept { return grid_; }
     /// Repaints the grid (after the program changed it).
     void Refresh();
-
-    /// Called after every input the grid took (a key, text, a click, the wheel, a paste),
-    /// so that a program can mark its document changed; may be empty.
-    std::function<void()> OnInput;
 
 private:
     struct Callbacks;

@@ -218,6 +218,28 @@ TEST_F(VectorEditTest, PasteReadsTheWholeBlockBeforeWriting) {
     EXPECT_EQ(v[99], 8);
 }
 
+TEST_F(VectorEditTest, OnChangeFollowsInputThatStoresValues) {
+    int changes = 0;
+    edit.OnChange = [&](KornumGridEdit::TKorCustomGridEdit& sender) {
+        EXPECT_EQ(&sender, &edit);
+        ++changes;
+    };
+    Press(edit, Platform::vkDown);
+    edit.SetElement(5, 1);  // the accessors are the program's own
+    Enter(edit, "x");       // not stored
+    EXPECT_EQ(changes, 0);
+    // A paste into an open edit goes in at the caret.
+    edit.PasteText("25\n");
+    EXPECT_EQ(edit.EditText(), "x25");
+    Press(edit, Platform::vkHome);
+    Press(edit, Platform::vkDelete);
+    Press(edit, Platform::vkReturn);
+    EXPECT_EQ(v[1], 25);
+    Press(edit, Platform::vkDelete);
+    edit.PasteText("1\n2\n");
+    EXPECT_EQ(changes, 3);
+}
+
 TEST(VectorEditVirtual, PaintingAsksOnlyForTheRowsInView) {
     for (Integer count : {10, std::numeric_limits<Integer>::max()}) {
         TKorVectorEdit edit(nullptr);
