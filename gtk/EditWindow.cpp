@@ -18,12 +18,16 @@ struct Window {
     GtkWidget* window = nullptr;
     GtkWidget* status = nullptr;
     bool changed = false;
+    bool reported = false;  // a message was shown since the last operation began
 
     void ShowTitle() {
         const std::string name = std::filesystem::path(document.Path()).filename().string();
         gtk_window_set_title(GTK_WINDOW(window), ((changed ? "*" : "") + name + " - kornum-edit").c_str());
     }
-    void Say(const std::string& text) { gtk_label_set_text(GTK_LABEL(status), text.c_str()); }
+    void Say(const std::string& text) {
+        gtk_label_set_text(GTK_LABEL(status), text.c_str());
+        reported = !text.empty();
+    }
 
     void Save() {
         try {
@@ -45,7 +49,7 @@ struct Window {
         try {
             Say("");
             operation(*document.MatrixEdit());
-            changed = true;
+            changed = changed || !reported;  // a singular matrix is reported and left as it was
         } catch (const std::exception& error) {
             Say(error.what());
         }
