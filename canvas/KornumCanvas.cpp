@@ -173,13 +173,22 @@ void TKorCairoCanvas::UseFont() {
     usedFont_.Assign(font);
     fontSet_ = true;
     measuredWidth_ = -1;
+    glyphsChecked_.reset();
 }
 
 std::int32_t TKorCairoCanvas::TextWidth(std::string_view Text) {
     UseFont();
     if (measuredWidth_ >= 0 && Text == measured_ && TextEncoding() == measuredEncoding_) return measuredWidth_;
     const std::string utf8 = Platform::TextToUtf8(Text, Font().Name, TextEncoding());
-    CheckGlyphs(cr_, utf8, Font().Name);
+    // Each ASCII character is looked up once per font; numbers are made of a dozen.
+    const bool known = std::all_of(utf8.begin(), utf8.end(), [this](char c) {
+        return static_cast<unsigned char>(c) < 128 && glyphsChecked_[static_cast<unsigned char>(c)];
+    });
+    if (!known) {
+        CheckGlyphs(cr_, utf8, Font().Name);
+        for (char c : utf8)
+            if (static_cast<unsigned char>(c) < 128) glyphsChecked_.set(static_cast<unsigned char>(c));
+    }
     cairo_text_extents_t extents;
     cairo_text_extents(cr_, utf8.c_str(), &extents);
     measured_.assign(Text);

@@ -13,6 +13,7 @@
 #include <kornum/KornumExport.h>
 #include <kornum/PlatformGraphics.h>
 
+#include <bitset>
 #include <memory>
 #include <optional>
 #include <string>
@@ -146,6 +147,7 @@ private:
     std::string measured_;
     Platform::TTextEncoding measuredEncoding_ = Platform::TTextEncoding::Latin1;
     std::int32_t measuredWidth_ = -1;
+    std::bitset<128> glyphsChecked_;  // the ASCII characters the font is known to have
     std::int32_t drawnRight_ = 0;
 };
 
