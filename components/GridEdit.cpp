@@ -111,7 +111,10 @@ void TKorCustomGridEdit::SetRowHeight(Integer Value) noexcept { rowHeight_ = std
 void TKorCustomGridEdit::SetColWidth(Integer Value) noexcept { colWidth_ = std::max<Integer>(Value, 1); }
 
 void TKorCustomGridEdit::SetBounds(Integer Left, Integer Top, Integer Width, Integer Height) {
-    bounds_ = {Left, Top, Left + Width, Top + Height};
+    const Platform::TRect bounds{Left, Top, Left + Width, Top + Height};
+    // A host that sets the same size at every paint keeps what the wheel scrolled.
+    if (bounds == bounds_) return;
+    bounds_ = bounds;
     ScrollIntoView();
 }
 

@@ -107,8 +107,8 @@ public:
 
     /// The control's rectangle in its parent; painting fills (0, 0, Width, Height).
     Platform::TRect BoundsRect() const noexcept { return bounds_; }
-    /// Places the control at (Left, Top) with the given width and height; the view
-    /// scrolls to keep the current cell visible.
+    /// Places the control at (Left, Top) with the given width and height; when they
+    /// change, the view scrolls to keep the current cell visible.
     void SetBounds(Integer Left, Integer Top, Integer Width, Integer Height);
 
     // ---- Cells, selection and view
@@ -117,7 +117,7 @@ public:
     /// The column of the current cell.
     Integer CurrentCol() const noexcept { return col_; }
     /// Makes (Row, Col), kept within the grid, the current cell and the selection, and
-    /// scrolls it into view.
+    /// scrolls it into view; an open edit is closed unsaved.
     void SetCurrentCell(Integer Row, Integer Col);
     /// The selected block: from where the selection began to the current cell.
     TGridRect Selection() const noexcept;

@@ -98,6 +98,12 @@ TEST_F(VectorEditTest, NavigationKeysMoveTheCurrentCellAndScrollToIt) {
     EXPECT_EQ(edit.TopRow(), 6);
     edit.MouseWheel(Platform::WheelDelta / 2);
     EXPECT_EQ(edit.TopRow(), 3);
+    edit.SetBounds(0, 0, 200, 150);  // as a host does at every paint
+    GridCanvas canvas;
+    edit.Paint(canvas);
+    EXPECT_EQ(edit.TopRow(), 3);
+    edit.SetBounds(0, 0, 200, 100);  // a new size brings the current cell back
+    EXPECT_EQ(edit.TopRow(), 0);
 }
 
 TEST_F(VectorEditTest, AnEditCommitsOnEnterAndCancelsOnEscape) {
