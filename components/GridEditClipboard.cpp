@@ -46,6 +46,10 @@ std::string Quoted(std::string_view text) {
 std::string TKorCustomGridEdit::CopyText() {
     if (!HasCells()) return {};
     const TGridRect block = Selection();
+    const std::int64_t rows = std::int64_t(block.Bottom) - block.Top + 1, cols = std::int64_t(block.Right) - block.Left + 1;
+    if (rows * cols > MaxCopyCells)
+        throw Platform::EMathError("The selection of " + std::to_string(rows) + " x " + std::to_string(cols) +
+                                   " cells is too large to copy: at most " + std::to_string(MaxCopyCells) + " cells");
     std::string text;
     for (Integer r = block.Top; r <= block.Bottom; ++r) {
         for (Integer c = block.Left; c <= block.Right; ++c) {

@@ -166,7 +166,11 @@ public:
     /// The selection as text: one line per row, values separated by tabs, each line ended
     /// by a line feed; every value in the shortest text that reads back as the same Float
     /// (whatever `Decimals` says), null values as `KorNullStr`. Empty for an empty grid.
+    /// A selection of more than `MaxCopyCells` cells (all of a virtual grid of 2^31 rows)
+    /// raises `Platform::EMathError` saying so, before any value is asked for.
     std::string CopyText();
+    /// The most cells `CopyText` copies: 2^24.
+    static constexpr std::int64_t MaxCopyCells = std::int64_t(1) << 24;
     /// Writes a block of tab-separated lines (a line feed or CR LF between them) with its
     /// top left corner at the current cell, and selects it; into an open edit, a text of
     /// one value without a line end goes in at the caret instead. All of the text is read before

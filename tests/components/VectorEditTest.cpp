@@ -280,6 +280,15 @@ TEST(VectorEditVirtual, PaintingAsksOnlyForTheRowsInView) {
         EXPECT_EQ(at, count - 1);
         EXPECT_EQ(stored, 42);
         EXPECT_TRUE(Raises<Platform::Exception>([&] { edit.GetElement(count); }, rsInvalidRow));
+        Press(edit, Platform::vkA, ssCtrl);
+        if (count > KornumGridEdit::TKorCustomGridEdit::MaxCopyCells) {
+            calls = 0;
+            EXPECT_TRUE(Raises([&] { edit.CopyText(); },
+                               "The selection of 2147483647 x 1 cells is too large to copy: at most 16777216 cells"));
+            EXPECT_EQ(calls, 0);
+        } else {
+            EXPECT_EQ(edit.CopyText(), "0\n0.25\n0.5\n0.75\n1\n1.25\n1.5\n1.75\n2\n2.25\n");
+        }
     }
     TKorVectorEdit unfed(nullptr);  // no event: every cell is null
     unfed.SetVirtualMode(true);
