@@ -14,12 +14,13 @@ namespace KornumGridEdit {
 // the label column at the left, then the value columns from LeftCol on.
 struct TKorCustomGridEdit::Layout {
     Integer width, height;
-    Integer rows, cols;          // value cells
-    Integer rowTitleWidth, labelWidth;
+    Integer rows, cols;  // value cells
+    Integer rowHeight, colWidth, rowTitleWidth, labelWidth;
     Integer cellsLeft, cellsTop;  // the top left corner of the first value cell in view
     Integer fullRows, fullCols;   // value rows and columns wholly in view, at least 1
 
-    // The columns of cells in view from Left on, partial ones included.
+    // The value columns in view from Left on, and the rows from Top on, partial ones
+    // included.
     Integer ColsInView(Integer left) const {
         const Integer across = (width - cellsLeft + colWidth - 1) / colWidth;
         return across < cols - left ? across : cols - left;
@@ -28,7 +29,6 @@ struct TKorCustomGridEdit::Layout {
         const Integer down = (height - cellsTop + rowHeight - 1) / rowHeight;
         return down < rows - top ? down : rows - top;
     }
-    Integer colWidth, rowHeight;
 };
 
 namespace detail {
