@@ -13,10 +13,13 @@
 #include <kornum/KornumExport.h>
 #include <kornum/PlatformGraphics.h>
 
+#include <bitset>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+struct _cairo;  // Cairo's context, cairo_t, seen only through a pointer
 
 /// The Cairo canvas module (library kornum_canvas): `TKorImageCanvas`, an implementation of
 /// `Platform::TCanvas` that writes SVG, PNG or PDF, and its helpers.
@@ -81,30 +84,26 @@ std::optional<TImageFormat> FormatOfPath(std::string_view Path);
 /// canvas has already turned into Unicode characters), else the face itself.
 std::string RenderingFace(std::string_view Face);
 
-/// A `Platform::TCanvas` that draws text into an image of a fixed size and gives it as
-/// the bytes of an SVG, PNG or PDF file.
+/// A `Platform::TCanvas` that draws on a Cairo context the caller owns: a window's
+/// drawing area, or the image of a `TKorImageCanvas`.
 ///
 /// Text is measured with Cairo and the fonts fontconfig finds, at 96 pixels per inch (a
 /// font of 10 points is set at 13.33 pixels); a character the font has no glyph for
 /// raises `EMissingGlyph` when it is measured or drawn, and text that is not UTF-8 on a
-/// canvas reading UTF-8 raises `Platform::EConvertError`. Coordinates are pixels in every
-/// format: a PNG has one pixel per unit, while a PDF page is 0.75 points per pixel (72
-/// points per inch over 96 pixels) and an SVG gives its font sizes in points, so that in
-/// both a font of 10 points is 10 points on the page. System colours are resolved by
-/// `Platform::TCanvas::Resolve` (a light desktop theme). `Platform::TextFlags::Center` and
-/// `Platform::TextFlags::Right` align the text within the rectangle,
+/// canvas reading UTF-8 raises `Platform::EConvertError`. System colours are resolved by
+/// `Platform::TCanvas::Resolve` (a light desktop theme). `Platform::TextFlags::Center`
+/// and `Platform::TextFlags::Right` align the text within the rectangle,
 /// `Platform::TextFlags::CalcRect` measures without drawing, and `&` is an accelerator
 /// mark unless `Platform::TextFlags::NoPrefix` is given; the other flags are accepted and
-/// ignored (a draw is one line at the rectangle's top). Underline and strike-out are drawn
-/// in PNG and PDF only.
-class TKorImageCanvas : public Platform::TCanvas {
+/// ignored (a draw is one line at the rectangle's top). Rectangles, frames and lines are
+/// drawn on whole pixels, and the clip rectangle is the context's clip.
+class TKorCairoCanvas : public Platform::TCanvas {
 public:
-    /// An image of Width x Height pixels (a PDF page of 0.75 Width x 0.75 Height points),
-    /// filled with Background. A size the canvas cannot make (a side below 1, a PNG side
-    /// beyond `MaxPngSide`) raises `EImageSize`.
-    TKorImageCanvas(TImageFormat Format, std::int32_t Width, std::int32_t Height, Platform::TColor Background);
-    /// Releases the Cairo surface.
-    ~TKorImageCanvas() override;
+    /// A canvas drawing on Context (a `cairo_t*`), which must outlive it. The context's
+    /// clip and source are changed by drawing; its other state is left as it is.
+    explicit TKorCairoCanvas(_cairo* Context);
+    /// Leaves the context to its owner.
+    ~TKorCairoCanvas() override;
 
     /// The advance width of the text in the current font, in whole pixels (rounded).
     std::int32_t TextWidth(std::string_view Text) override;
@@ -113,11 +112,74 @@ public:
     /// `Platform::TextFlags::CalcRect` nothing is drawn: Rect's right and bottom edges are
     /// set to the text's width and line height from its left and top.
     std::int32_t DrawText(std::string_view Text, Platform::TRect& Rect, std::uint32_t Flags) override;
+    /// Fills Rect with Color.
+    void FillRect(const Platform::TRect& Rect, Platform::TColor Color) override;
+    /// A one-pixel frame along the inside of Rect in Color.
+    void FrameRect(const Platform::TRect& Rect, Platform::TColor Color) override;
+    /// A one-pixel line through the pixels from (X1, Y1) to (X2, Y2) in Color.
+    void DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2, std::int32_t Y2, Platform::TColor Color) override;
+    /// Limits later draws to Rect.
+    void SetClipRect(const Platform::TRect& Rect) override;
+    /// Removes the clip rectangle.
+    void ResetClipRect() override;
 
     /// The right edge of everything drawn so far (0 before the first draw).
-    std::int32_t DrawnRight() const noexcept;
+    std::int32_t DrawnRight() const noexcept { return drawnRight_; }
     /// The height of a line of text in the current font, in whole pixels (rounded up).
     std::int32_t LineHeight();
+
+protected:
+    /// Draws UTF-8 text already laid out: its left end at X, its baseline at Baseline,
+    /// Width pixels wide, in the canvas font and the resolved Color.
+    virtual void ShowText(const std::string& Utf8, double X, double Baseline, std::int32_t Width,
+                          Platform::TColor Color);
+    /// The Cairo context drawn on.
+    _cairo* Context() const noexcept { return cr_; }
+
+private:
+    void UseFont();
+    _cairo* cr_;
+    // The font Cairo is set to, with its extents, and the text measured last: a control
+    // that measures a text and then draws it has it measured once.
+    Platform::TFont usedFont_;
+    bool fontSet_ = false;
+    double ascent_ = 0, descent_ = 0, height_ = 0;
+    std::string measured_;
+    Platform::TTextEncoding measuredEncoding_ = Platform::TTextEncoding::Latin1;
+    std::int32_t measuredWidth_ = -1;
+    std::bitset<128> glyphsChecked_;  // the ASCII characters the font is known to have
+    std::int32_t drawnRight_ = 0;
+};
+
+/// A `Platform::TCanvas` that draws text into an image of a fixed size and gives it as
+/// the bytes of an SVG, PNG or PDF file.
+///
+/// It is a `TKorCairoCanvas` over an image surface of its own (a PDF surface for PDF),
+/// and measures and draws as that one does. Coordinates are pixels in every format: a PNG
+/// has one pixel per unit, while a PDF page is 0.75 points per pixel (72 points per inch
+/// over 96 pixels) and an SVG gives its font sizes in points, so that in both a font of 10
+/// points is 10 points on the page. Underline and strike-out are drawn in PNG and PDF
+/// only. An SVG keeps rectangles and lines as `<rect>` and `<line>` elements and a clip
+/// rectangle as a `<clipPath>` that the later elements refer to.
+class TKorImageCanvas : public TKorCairoCanvas {
+public:
+    /// An image of Width x Height pixels (a PDF page of 0.75 Width x 0.75 Height points),
+    /// filled with Background. A size the canvas cannot make (a side below 1, a PNG side
+    /// beyond `MaxPngSide`) raises `EImageSize`.
+    TKorImageCanvas(TImageFormat Format, std::int32_t Width, std::int32_t Height, Platform::TColor Background);
+    /// Releases the Cairo surface.
+    ~TKorImageCanvas() override;
+
+    /// Fills Rect with Color.
+    void FillRect(const Platform::TRect& Rect, Platform::TColor Color) override;
+    /// A one-pixel frame along the inside of Rect in Color.
+    void FrameRect(const Platform::TRect& Rect, Platform::TColor Color) override;
+    /// A one-pixel line through the pixels from (X1, Y1) to (X2, Y2) in Color.
+    void DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2, std::int32_t Y2, Platform::TColor Color) override;
+    /// Limits later draws to Rect.
+    void SetClipRect(const Platform::TRect& Rect) override;
+    /// Removes the clip rectangle.
+    void ResetClipRect() override;
 
     /// The image as the file's bytes. For a PDF this finishes the document: later draws do
     /// not reach it. A PNG or PDF that Cairo fails to write raises `Platform::Exception`
@@ -129,8 +191,15 @@ public:
     /// whole image or nothing.
     void SaveToFile(const std::string& Path);
 
+protected:
+    /// In an SVG, a `<text>` element; else drawn by Cairo.
+    void ShowText(const std::string& Utf8, double X, double Baseline, std::int32_t Width,
+                  Platform::TColor Color) override;
+
 private:
     struct Impl;
+    // Made before the Cairo canvas that draws on its context.
+    TKorImageCanvas(std::unique_ptr<Impl> Surface, Platform::TColor Background);
     std::unique_ptr<Impl> impl_;
 };
 

@@ -4,12 +4,16 @@
 set(KORNUM_BUILD_INCLUDE_DIR ${CMAKE_BINARY_DIR}/include)
 file(MAKE_DIRECTORY ${KORNUM_BUILD_INCLUDE_DIR}/kornum)
 
+# BUILD_TREE_ONLY: headers of a library that is not installed.
 function(kornum_public_headers)
-  foreach(header IN LISTS ARGN)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "BUILD_TREE_ONLY" "" "")
+  foreach(header IN LISTS arg_UNPARSED_ARGUMENTS)
     get_filename_component(absolute ${header} ABSOLUTE)
     get_filename_component(name ${header} NAME)
     file(CREATE_LINK ${absolute} ${KORNUM_BUILD_INCLUDE_DIR}/kornum/${name} SYMBOLIC COPY_ON_ERROR)
-    install(FILES ${absolute} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kornum)
+    if(NOT arg_BUILD_TREE_ONLY)
+      install(FILES ${absolute} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kornum)
+    endif()
   endforeach()
 endfunction()
 

@@ -10,6 +10,7 @@
 #include <kornum/PlatformComponents.h>
 #include <kornum/PlatformStreaming.h>
 #include <kornum/PlatformGraphics.h>
+#include <kornum/PlatformInput.h>
 #include <kornum/PlatformRandom.h>
 
 #include <kornum/Kornumglobals.h>
@@ -30,4 +31,7 @@
 #include <kornum/KornumDescStats.h>
 #include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/KornumMathLabel.h>
+#include <kornum/KornumGridEdit.h>
+#include <kornum/KornumVectorEdit.h>
+#include <kornum/KornumMatrixEdit.h>
 #include <kornum/KornumPackage.h>

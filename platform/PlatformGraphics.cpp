@@ -197,6 +197,13 @@ std::string TextToUtf8(std::string_view Text, std::string_view Face, TTextEncodi
     return out;
 }
 
+// A canvas that draws only text ignores shapes and clipping.
+void TCanvas::FillRect(const TRect&, TColor) {}
+void TCanvas::FrameRect(const TRect&, TColor) {}
+void TCanvas::DrawLine(std::int32_t, std::int32_t, std::int32_t, std::int32_t, TColor) {}
+void TCanvas::SetClipRect(const TRect&) {}
+void TCanvas::ResetClipRect() {}
+
 TColor TCanvas::Resolve(TColor Color) const {
     if (!Color.IsSystem()) return Color;
     switch (Color.SystemColor()) {

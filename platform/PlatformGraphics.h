@@ -223,6 +223,24 @@ public:
     /// accelerator and is not drawn (`&&` draws one `&`).
     virtual std::int32_t DrawText(std::string_view Text, TRect& Rect, std::uint32_t Flags) = 0;
 
+    /// @name Shapes and clipping
+    /// What a grid draws besides text. Coordinates are pixels, as for `TRect`. A canvas
+    /// that only draws text may leave these as they are: they then draw nothing.
+    /// @{
+
+    /// Fills Rect (Right and Bottom excluded) with Color.
+    virtual void FillRect(const TRect& Rect, TColor Color);
+    /// Draws a frame one pixel wide along the inside of Rect in Color.
+    virtual void FrameRect(const TRect& Rect, TColor Color);
+    /// Draws a line one pixel wide in Color through the pixels from (X1, Y1) to (X2, Y2),
+    /// both ends included.
+    virtual void DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2, std::int32_t Y2, TColor Color);
+    /// Limits every later draw to Rect, replacing any earlier clip rectangle.
+    virtual void SetClipRect(const TRect& Rect);
+    /// Removes the clip rectangle: later draws reach the whole surface.
+    virtual void ResetClipRect();
+    /// @}
+
     /// A system colour as this canvas shows it; other colours as they are. The default
     /// is a light desktop theme: black text, faces (240, 240, 240), white highlights,
     /// shadows (160, 160, 160), grey text (109, 109, 109).

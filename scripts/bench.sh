@@ -7,7 +7,7 @@ bash scripts/install-deps.sh --bench
 quick=""
 if [ "${1:-}" = "--quick" ]; then quick="--benchmark_min_time=0.001"; fi
 cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DKORNUM_BUILD_BENCH=ON \
-  -DKORNUM_BUILD_TESTS=OFF
+  -DKORNUM_BUILD_TESTS=OFF -DKORNUM_BUILD_GTK=OFF
 cmake --build build-bench
 for bench in build-bench/bench/kornum_*_bench; do
   echo "== $(basename "$bench")"

@@ -15,7 +15,7 @@ flags="-fsanitize=address,undefined -fno-sanitize-recover=all -fsanitize=fuzzer-
 cmake -S . -B build-fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_EXE_LINKER_FLAGS="-fsanitize=address,undefined" \
   -DCMAKE_SHARED_LINKER_FLAGS="-fsanitize=address,undefined" \
-  -DKORNUM_BUILD_TESTS=OFF -DKORNUM_BUILD_EXAMPLES=OFF -DKORNUM_BUILD_FUZZ=ON >/dev/null
+  -DKORNUM_BUILD_TESTS=OFF -DKORNUM_BUILD_EXAMPLES=OFF -DKORNUM_BUILD_GTK=OFF -DKORNUM_BUILD_FUZZ=ON >/dev/null
 cmake --build build-fuzz
 for target in "${targets[@]}"; do
   scratch=$(mktemp -d)

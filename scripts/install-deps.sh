@@ -14,6 +14,8 @@ packages=(
   python3-numpy python3-scipy     # the random variates' distribution tests
   doxygen                         # the API reference (the docs target)
   python3-venv                    # the Python package's test environment
+  libgtk-4-dev                    # the optional GTK 4 host of the edit controls
+  xvfb xdotool                    # kornum-edit's smoke test: a display and typed keys
 )
 # With --bench: also what the whole-program benchmark compares against.
 if [ "${1:-}" = "--bench" ]; then
