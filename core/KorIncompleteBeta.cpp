@@ -279,6 +279,93 @@ BetaValue EvaluateIncompleteBeta(const UnitPair& point, Float a, Float b, LazyBe
     return {1 - u, u, prefix.value, prefix.log, share, false};
 }
 
+// ---- Closed forms ----------------------------------------------------------------------
+
+// Shapes up to this whole number take the finite series below: at most this many terms,
+// each a few multiply-adds, where the continued fraction costs the gammas of B(a, b) first.
+constexpr Float WholeShapeLimit = 40;
+
+// Adding and taking away 2^63 rounds v to a whole number without a change of the x87
+// rounding mode, which floor would need.
+bool SmallWhole(Float v) { return v <= WholeShapeLimit && (v + 0x1p63L) - 0x1p63L == v; }
+
+// y^p for y in (0, 1) given in two Floats: for a small whole or half-whole p by squaring
+// in two Floats, times the square root for the half; otherwise through the logarithm in
+// two Floats (p ln y reaches thousands).
+Float Power(TwoFloat y, Float p) {
+    const bool half = !SmallWhole(p);
+    if (half && !SmallWhole(p + 0.5L)) return special::Exp(special::Log(y) * p);
+    TwoFloat power{1, 0};
+    if (half) {  // sqrt(y), corrected by the exact residual y - s^2
+        const Float s = std::sqrt(y.hi);
+        const TwoFloat square = special::TwoProduct(s, s);
+        power = special::FastTwoSum(s, ((y.hi - square.hi) - square.lo + y.lo) / (2 * s));
+    }
+    TwoFloat square = y;
+    for (Float n = half ? p - 0.5L : p; n != 0;) {  // the binary digits of n from the lowest
+        const Float halfN = n * 0.5L;
+        const bool odd = (halfN + 0x1p63L) - 0x1p63L != halfN;
+        if (odd) power = power * square;
+        n = odd ? halfN - 0.5L : halfN;
+        if (n != 0) square = square * square;
+    }
+    return power.hi + power.lo;
+}
+
+// sum_{k < n} (p)_k / k! y^k for a whole n >= 1, nested from the innermost term as the
+// quotient u / v of two sums of positive terms: no division but the last and no
+// cancellation, so the rounding errors stay a few ulps.
+Float FiniteSeries(Float y, Float p, Float n) {
+    Float u = 1, v = 1;
+    for (Float k = n - 1; k >= 1; k -= 1) {
+        const Float kv = k * v;
+        u = kv + (p + k - 1) * y * u;
+        v = kv;
+    }
+    return u / v;
+}
+
+// I_x(a, b) where it needs neither B(a, b) nor the continued fraction; false elsewhere.
+// For a whole b, I_x(a, b) = x^a sum_{k < b} (a)_k / k! (1 - x)^k, positive terms only;
+// for a = 1, 1 - (1 - x)^b, a small one from the logarithm of 1 - x to full relative
+// precision;
+// for a whole a, 1 minus the mirrored series (1 - x)^b sum_{k < a} (b)_k / k! x^k, taken
+// only while that is at most 3/4, so that the subtraction costs at most two bits; for
+// a = b = 1/2 the arcsine law (2 / pi) atan(sqrt(x / (1 - x))).
+bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
+    const TwoFloat &x = point.x, &c = point.complement;
+    if (a == 0.5L && b == 0.5L) {
+        // From the smaller of x and 1 - x, where the arcsine is well conditioned; the
+        // square root halves their relative errors, so their low parts move the result by
+        // less than half an ulp.
+        constexpr Float twoOverPi = 0.636619772367581343075535053490057448L;
+        lower = x.hi <= 0.5L ? twoOverPi * std::asin(std::sqrt(x.hi))
+                             : 1 - twoOverPi * std::asin(std::sqrt(c.hi));
+        return true;
+    }
+    if (SmallWhole(b)) {
+        const Float power = Power(x, a);
+        lower = power * FiniteSeries(c.hi, a, b);
+        return power >= SmallestNormal;
+    }
+    if (a == 1) {
+        lower = 1 - Power(c, b);
+        if (lower >= 0.25L) return true;
+        // A small tail from the logarithm of 1 - x to full relative precision: log1p of the
+        // leading part and the low part to first order below 1/2, the exact complement above.
+        const Float logC = x.hi < 0.5L ? std::log1p(-x.hi) - x.lo / c.hi : special::Log(c).hi;
+        lower = -std::expm1(b * logC);
+        return true;
+    }
+    if (SmallWhole(a)) {
+        const Float power = Power(c, b);
+        const Float upper = power * FiniteSeries(x.hi, b, a);
+        lower = 1 - upper;
+        return power >= SmallestNormal && upper <= 0.75L;
+    }
+    return false;
+}
+
 bool ValidShapes(Float a, Float b) {
     return a > 0 && b > 0 && std::isfinite(a) && std::isfinite(b);
 }
@@ -459,9 +546,14 @@ UnitPoint SolveLowerTail(Float t, Float a, Float b) {
 
 }  // namespace
 
+// The public function keeps the continued fraction for every shape: the binomial tails
+// built on it need a tail and its mirror to sum to 1 within two ulps, closer than the
+// closed forms' few ulps.
 Float IncompleteBeta(Float X, Float A, Float B) {
     if (!ValidShapes(A, B) || !(X >= 0 && X <= 1)) return NaN;
-    return special::IncompleteBeta({X, 0}, A, B);
+    if (X == 0 || X == 1) return X;
+    LazyBeta beta(A, B);
+    return EvaluateIncompleteBeta({{X, 0}, special::TwoSum(1, -X)}, A, B, beta).lower;
 }
 
 namespace special {
@@ -469,8 +561,11 @@ namespace special {
 Float IncompleteBeta(TwoFloat x, Float a, Float b) {
     if (x.hi <= 0) return 0;
     if (x.hi >= 1 && x.lo >= 0) return 1;
+    const UnitPair point{x, TwoFloat{1, 0} - x};
+    Float closed;
+    if (ClosedForm(point, a, b, closed)) return closed < 1 ? closed : 1;  // rounding may pass 1
     LazyBeta beta(a, b);
-    return EvaluateIncompleteBeta({x, TwoFloat{1, 0} - x}, a, b, beta).lower;
+    return EvaluateIncompleteBeta(point, a, b, beta).lower;
 }
 
 Float BetaDensity(TwoFloat x, TwoFloat complement, Float a, Float b) {
