@@ -127,25 +127,36 @@ std::vector<Float> Deciles(const Distribution& distribution) {
 }
 
 template <class Shape, class Ours, class Theirs>
-void RegisterShapePair(const std::string& name, const Shape& shape, const std::vector<Float>& points, Ours ours,
-                       Theirs theirs) {
+void RegisterShapePair(const std::string& name, const Shape& shape, Ours ours, Theirs theirs) {
     const std::string label = "/(" + shape.Label() + ")";
-    benchmark::RegisterBenchmark(("Ours" + name + label).c_str(), [&shape, &points, ours](benchmark::State& s) {
-        Run(s, points, [&](Float x) { return ours(shape, x); });
+    benchmark::RegisterBenchmark(("Ours" + name + label).c_str(), [&shape, ours](benchmark::State& s) {
+        Run(s, shape.deciles, [&](Float x) { return ours(shape, x); });
     });
-    benchmark::RegisterBenchmark(("Boost" + name + label).c_str(), [&shape, &points, theirs](benchmark::State& s) {
-        Run(s, points, [&](Float x) { return theirs(shape.peer, x); });
+    benchmark::RegisterBenchmark(("Boost" + name + label).c_str(), [&shape, theirs](benchmark::State& s) {
+        Run(s, shape.deciles, [&](Float x) { return theirs(shape.peer, x); });
     });
+}
+
+// A family's two tails at each of its shapes, beside Boost's cdf and its complement.
+template <class Shape, class Less, class Greater>
+void RegisterFamily(const std::string& family, const std::vector<Shape>& shapes, Less less, Greater greater) {
+    for (const Shape& shape : shapes) {
+        RegisterShapePair(family + "Less", shape, less, [](const auto& peer, Float x) { return bm::cdf(peer, x); });
+        RegisterShapePair(family + "Greater", shape, greater,
+                          [](const auto& peer, Float x) { return bm::cdf(bm::complement(peer, x)); });
+    }
 }
 
 struct FShape {
     Integer n1, n2;
     bm::fisher_f_distribution<Float> peer;
+    std::vector<Float> deciles;
     std::string Label() const { return std::to_string(n1) + ", " + std::to_string(n2); }
 };
 struct BetaShape {
     Float a, b;
     bm::beta_distribution<Float> peer;
+    std::vector<Float> deciles;
     std::string Label() const {
         const auto text = [](Float v) { return v == std::floor(v) ? std::to_string(int(v)) : std::to_string(double(v)).substr(0, 3); };
         return text(a) + ", " + text(b);
@@ -155,38 +166,29 @@ struct BetaShape {
 // Held for the whole run: the benchmarks refer to them.
 const std::vector<FShape> fShapes = [] {
     std::vector<FShape> shapes;
-    for (auto [n1, n2] : {std::pair{1, 1}, {2, 5}, {5, 10}, {10, 30}, {30, 100}, {100, 1000}, {3, 1000}, {1000, 3}})
-        shapes.push_back({n1, n2, bm::fisher_f_distribution<Float>(n1, n2)});
+    for (auto [n1, n2] : {std::pair{1, 1}, {2, 5}, {5, 10}, {10, 30}, {30, 100}, {100, 1000}, {3, 1000}, {1000, 3}}) {
+        const bm::fisher_f_distribution<Float> peer(n1, n2);
+        shapes.push_back({n1, n2, peer, Deciles(peer)});
+    }
     return shapes;
 }();
 const std::vector<BetaShape> betaShapes = [] {
     std::vector<BetaShape> shapes;
     for (auto [a, b] : {std::pair{0.5L, 0.5L}, {1.0L, 3.0L}, {2.0L, 5.0L}, {5.0L, 2.0L}, {10.0L, 10.0L},
-                        {50.0L, 200.0L}, {0.5L, 20.0L}, {200.0L, 2.0L}})
-        shapes.push_back({a, b, bm::beta_distribution<Float>(a, b)});
+                        {50.0L, 200.0L}, {0.5L, 20.0L}, {200.0L, 2.0L}}) {
+        const bm::beta_distribution<Float> peer(a, b);
+        shapes.push_back({a, b, peer, Deciles(peer)});
+    }
     return shapes;
 }();
-std::vector<std::vector<Float>> fDeciles, betaDeciles;
 
 void RegisterShapes() {
-    for (const FShape& shape : fShapes) fDeciles.push_back(Deciles(shape.peer));
-    for (const BetaShape& shape : betaShapes) betaDeciles.push_back(Deciles(shape.peer));
-    for (std::size_t i = 0; i < fShapes.size(); ++i) {
-        RegisterShapePair("FDistLess", fShapes[i], fDeciles[i],
-                          [](const FShape& f, Float x) { return FDistLess(x, f.n1, f.n2); },
-                          [](const auto& peer, Float x) { return bm::cdf(peer, x); });
-        RegisterShapePair("FDistGreater", fShapes[i], fDeciles[i],
-                          [](const FShape& f, Float x) { return FDistGreater(x, f.n1, f.n2); },
-                          [](const auto& peer, Float x) { return bm::cdf(bm::complement(peer, x)); });
-    }
-    for (std::size_t i = 0; i < betaShapes.size(); ++i) {
-        RegisterShapePair("BetaDistLess", betaShapes[i], betaDeciles[i],
-                          [](const BetaShape& b, Float x) { return BetaDistLess(x, b.a, b.b); },
-                          [](const auto& peer, Float x) { return bm::cdf(peer, x); });
-        RegisterShapePair("BetaDistGreater", betaShapes[i], betaDeciles[i],
-                          [](const BetaShape& b, Float x) { return BetaDistGreater(x, b.a, b.b); },
-                          [](const auto& peer, Float x) { return bm::cdf(bm::complement(peer, x)); });
-    }
+    RegisterFamily(
+        "FDist", fShapes, [](const FShape& f, Float x) { return FDistLess(x, f.n1, f.n2); },
+        [](const FShape& f, Float x) { return FDistGreater(x, f.n1, f.n2); });
+    RegisterFamily(
+        "BetaDist", betaShapes, [](const BetaShape& b, Float x) { return BetaDistLess(x, b.a, b.b); },
+        [](const BetaShape& b, Float x) { return BetaDistGreater(x, b.a, b.b); });
 }
 
 // The console report, then ours over Boost's CPU time for every pair that ran (the

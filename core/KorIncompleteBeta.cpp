@@ -292,10 +292,11 @@ bool SmallWhole(Float v) { return v <= WholeShapeLimit && (v + 0x1p63L) - 0x1p63
 // y^p for y in (0, 1) given in two Floats: for a small whole or half-whole p by squaring
 // in two Floats, times the square root for the half; otherwise through the logarithm in
 // two Floats (p ln y reaches thousands).
-Float Power(TwoFloat y, Float p) {
+Float Power(const TwoFloat& y, Float p) {
     const bool half = !SmallWhole(p);
     if (half && !SmallWhole(p + 0.5L)) return special::Exp(special::Log(y) * p);
     TwoFloat power{1, 0};
+    bool started = half;  // power holds a factor: no multiplication by 1
     if (half) {  // sqrt(y), corrected by the exact residual y - s^2
         const Float s = std::sqrt(y.hi);
         const TwoFloat square = special::TwoProduct(s, s);
@@ -305,7 +306,8 @@ Float Power(TwoFloat y, Float p) {
     for (Float n = half ? p - 0.5L : p; n != 0;) {  // the binary digits of n from the lowest
         const Float halfN = n * 0.5L;
         const bool odd = (halfN + 0x1p63L) - 0x1p63L != halfN;
-        if (odd) power = power * square;
+        if (odd) power = started ? power * square : square;
+        started = started || odd;
         n = odd ? halfN - 0.5L : halfN;
         if (n != 0) square = square * square;
     }
@@ -316,6 +318,7 @@ Float Power(TwoFloat y, Float p) {
 // quotient u / v of two sums of positive terms: no division but the last and no
 // cancellation, so the rounding errors stay a few ulps.
 Float FiniteSeries(Float y, Float p, Float n) {
+    if (n == 1) return 1;
     Float u = 1, v = 1;
     for (Float k = n - 1; k >= 1; k -= 1) {
         const Float kv = k * v;
@@ -326,12 +329,12 @@ Float FiniteSeries(Float y, Float p, Float n) {
 }
 
 // I_x(a, b) where it needs neither B(a, b) nor the continued fraction; false elsewhere.
-// For a whole b, I_x(a, b) = x^a sum_{k < b} (a)_k / k! (1 - x)^k, positive terms only;
-// for a = 1, 1 - (1 - x)^b, a small one from the logarithm of 1 - x to full relative
-// precision;
-// for a whole a, 1 minus the mirrored series (1 - x)^b sum_{k < a} (b)_k / k! x^k, taken
-// only while that is at most 3/4, so that the subtraction costs at most two bits; for
-// a = b = 1/2 the arcsine law (2 / pi) atan(sqrt(x / (1 - x))).
+// - a = b = 1/2: the arcsine law (2 / pi) asin(sqrt(x)).
+// - b whole: x^a sum_{k < b} (a)_k / k! (1 - x)^k, positive terms only.
+// - a = 1: 1 - (1 - x)^b; for a whole 2b the geometric series (1 - r) sum_{j < 2b} r^j in
+//   r = sqrt(1 - x), positive terms again, else from the logarithm of 1 - x.
+// - a whole: 1 minus the mirrored series (1 - x)^b sum_{k < a} (b)_k / k! x^k, taken only
+//   while that is at most 3/4, so that the subtraction costs at most two bits.
 bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
     const TwoFloat &x = point.x, &c = point.complement;
     if (a == 0.5L && b == 0.5L) {
@@ -349,10 +352,13 @@ bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
         return power >= SmallestNormal;
     }
     if (a == 1) {
-        lower = 1 - Power(c, b);
-        if (lower >= 0.25L) return true;
-        // A small tail from the logarithm of 1 - x to full relative precision: log1p of the
-        // leading part and the low part to first order below 1/2, the exact complement above.
+        if (SmallWhole(2 * b)) {  // r = sqrt(1 - x), 1 - r = x / (1 + r)
+            const Float r = std::sqrt(c.hi);
+            lower = x.hi / (1 + r) * FiniteSeries(r, 1, 2 * b);
+            return true;
+        }
+        // log1p of the leading part of x and its low part to first order below 1/2, the
+        // logarithm of the exact 1 - x above.
         const Float logC = x.hi < 0.5L ? std::log1p(-x.hi) - x.lo / c.hi : special::Log(c).hi;
         lower = -std::expm1(b * logC);
         return true;
@@ -558,10 +564,13 @@ Float IncompleteBeta(Float X, Float A, Float B) {
 
 namespace special {
 
-Float IncompleteBeta(TwoFloat x, Float a, Float b) {
+Float IncompleteBeta(const TwoFloat& x, Float a, Float b) {
     if (x.hi <= 0) return 0;
     if (x.hi >= 1 && x.lo >= 0) return 1;
-    const UnitPair point{x, TwoFloat{1, 0} - x};
+    // Loaded as Floats: a copy of the pair whole goes through 16-byte moves that stall on
+    // its 10-byte stores.
+    const Float hi = x.hi, lo = x.lo;
+    const UnitPair point{{hi, lo}, TwoFloat{1, 0} - TwoFloat{hi, lo}};
     Float closed;
     if (ClosedForm(point, a, b, closed)) return closed < 1 ? closed : 1;  // rounding may pass 1
     LazyBeta beta(a, b);
