@@ -328,8 +328,15 @@ Float FiniteSeries(Float y, Float p, Float n) {
     return u / v;
 }
 
+// I_x(1/2, 1/2), the arcsine law (2 / pi) asin(sqrt(x)), from the smaller of x and 1 - x,
+// where the arcsine is well conditioned (1 - hi is exact from 1/2 on). The square root
+// halves their relative errors, so the low parts move the result by less than half an ulp.
+Float ArcsineLaw(Float hi, Float lo) {
+    constexpr Float twoOverPi = 0.636619772367581343075535053490057448L;
+    return hi <= 0.5L ? twoOverPi * std::asin(std::sqrt(hi)) : 1 - twoOverPi * std::asin(std::sqrt((1 - hi) - lo));
+}
+
 // I_x(a, b) where it needs neither B(a, b) nor the continued fraction; false elsewhere.
-// - a = b = 1/2: the arcsine law (2 / pi) asin(sqrt(x)).
 // - b whole: x^a sum_{k < b} (a)_k / k! (1 - x)^k, positive terms only.
 // - a = 1: 1 - (1 - x)^b; for a whole 2b the geometric series (1 - r) sum_{j < 2b} r^j in
 //   r = sqrt(1 - x), positive terms again, else from the logarithm of 1 - x.
@@ -337,15 +344,6 @@ Float FiniteSeries(Float y, Float p, Float n) {
 //   while that is at most 3/4, so that the subtraction costs at most two bits.
 bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
     const TwoFloat &x = point.x, &c = point.complement;
-    if (a == 0.5L && b == 0.5L) {
-        // From the smaller of x and 1 - x, where the arcsine is well conditioned; the
-        // square root halves their relative errors, so their low parts move the result by
-        // less than half an ulp.
-        constexpr Float twoOverPi = 0.636619772367581343075535053490057448L;
-        lower = x.hi <= 0.5L ? twoOverPi * std::asin(std::sqrt(x.hi))
-                             : 1 - twoOverPi * std::asin(std::sqrt(c.hi));
-        return true;
-    }
     if (SmallWhole(b)) {
         const Float power = Power(x, a);
         lower = power * FiniteSeries(c.hi, a, b);
@@ -570,6 +568,7 @@ Float IncompleteBeta(const TwoFloat& x, Float a, Float b) {
     // Loaded as Floats: a copy of the pair whole goes through 16-byte moves that stall on
     // its 10-byte stores.
     const Float hi = x.hi, lo = x.lo;
+    if (a == 0.5L && b == 0.5L) return ArcsineLaw(hi, lo);
     const UnitPair point{{hi, lo}, TwoFloat{1, 0} - TwoFloat{hi, lo}};
     Float closed;
     if (ClosedForm(point, a, b, closed)) return closed < 1 ? closed : 1;  // rounding may pass 1
