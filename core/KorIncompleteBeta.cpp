@@ -295,19 +295,21 @@ constexpr Float WholeShapeLimit = 40;
 // rounding mode, which floor would need.
 bool SmallWhole(Float v) { return v <= WholeShapeLimit && (v + 0x1p63L) - 0x1p63L == v; }
 
+// sqrt(y) in two Floats: the rounded root corrected by the exact residual y - s^2.
+TwoFloat SquareRoot(const TwoFloat& y) {
+    const Float s = std::sqrt(y.hi);
+    const TwoFloat square = special::TwoProduct(s, s);
+    return special::FastTwoSum(s, ((y.hi - square.hi) - square.lo + y.lo) / (2 * s));
+}
+
 // y^p for y in (0, 1) given in two Floats: for a small whole or half-whole p by squaring
 // in two Floats, times the square root for the half; otherwise through the logarithm in
 // two Floats (p ln y reaches thousands).
 Float Power(const TwoFloat& y, Float p) {
     const bool half = !SmallWhole(p);
     if (half && !SmallWhole(p + 0.5L)) return special::Exp(special::Log(y) * p);
-    TwoFloat power{1, 0};
+    TwoFloat power = half ? SquareRoot(y) : TwoFloat{1, 0};
     bool started = half;  // power holds a factor: no multiplication by 1
-    if (half) {  // sqrt(y), corrected by the exact residual y - s^2
-        const Float s = std::sqrt(y.hi);
-        const TwoFloat square = special::TwoProduct(s, s);
-        power = special::FastTwoSum(s, ((y.hi - square.hi) - square.lo + y.lo) / (2 * s));
-    }
     TwoFloat square = y;
     for (Float n = half ? p - 0.5L : p; n != 0;) {  // the binary digits of n from the lowest
         const Float halfN = n * 0.5L;
@@ -320,18 +322,20 @@ Float Power(const TwoFloat& y, Float p) {
     return power.hi + power.lo;
 }
 
-// sum_{k < n} (p)_k / k! y^k for a whole n >= 1, nested from the innermost term as the
-// quotient u / v of two sums of positive terms: no division but the last and no
-// cancellation, so the rounding errors stay a few ulps.
-Float FiniteSeries(Float y, Float p, Float n) {
+// sum_{k < n} (p)_k / k! y^k for a whole n >= 1 and y in (0, 1) given in two Floats,
+// nested from the innermost term as the quotient u / v of two sums of positive terms: no
+// division but the last and no cancellation, so the rounding errors stay a few ulps. The
+// low part of y enters through the derivative du / dy: y^k would magnify its neglect by k.
+Float FiniteSeries(const TwoFloat& y, Float p, Float n) {
     if (n == 1) return 1;
-    Float u = 1, v = 1;
+    Float u = 1, v = 1, slope = 0;
     for (Float k = n - 1; k >= 1; k -= 1) {
-        const Float kv = k * v;
-        u = kv + (p + k - 1) * y * u;
+        const Float kv = k * v, q = p + k - 1;
+        slope = q * (u + y.hi * slope);
+        u = kv + q * y.hi * u;
         v = kv;
     }
-    return u / v;
+    return (u + y.lo * slope) / v;
 }
 
 // I_x(1/2, 1/2), the arcsine law (2 / pi) asin(sqrt(x)), from the smaller of x and 1 - x,
@@ -352,13 +356,13 @@ bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
     const TwoFloat &x = point.x, &c = point.complement;
     if (SmallWhole(b)) {
         const Float power = Power(x, a);
-        lower = power * FiniteSeries(c.hi, a, b);
+        lower = power * FiniteSeries(c, a, b);
         return power >= SmallestNormal;
     }
     if (a == 1) {
         if (SmallWhole(2 * b)) {  // r = sqrt(1 - x), 1 - r = x / (1 + r)
-            const Float r = std::sqrt(c.hi);
-            lower = x.hi / (1 + r) * FiniteSeries(r, 1, 2 * b);
+            const TwoFloat r = SquareRoot(c);
+            lower = x.hi / (1 + r.hi) * FiniteSeries(r, 1, 2 * b);
             return true;
         }
         // log1p of the leading part of x and its low part to first order below 1/2, the
@@ -369,7 +373,7 @@ bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
     }
     if (SmallWhole(a)) {
         const Float power = Power(c, b);
-        const Float upper = power * FiniteSeries(x.hi, b, a);
+        const Float upper = power * FiniteSeries(x, b, a);
         lower = 1 - upper;
         return power >= SmallestNormal && upper <= 0.75L;
     }
