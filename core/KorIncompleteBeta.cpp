@@ -17,10 +17,10 @@
 // continued fraction needs about sqrt(max(a, b)) levels and stops at 2e5.
 //
 // The distributions' entry (special::IncompleteBeta in two Floats) first tries the closed
-// forms of I_x(a, b): the arcsine law at (1/2, 1/2), finite series for small whole shapes
-// and powers by squaring for whole and half-whole exponents, the shapes of the F family
-// with whole degrees of freedom among them. They need neither B(a, b), whose gammas are
-// most of the cost of the general method at small shapes, nor the continued fraction.
+// forms of I_x(a, b): the arcsine law at (1/2, 1/2), finite series where a shape is a small
+// whole number (an even number of degrees of freedom in the F family) or a = 1, and powers
+// by squaring for whole and half-whole exponents. They need neither B(a, b), whose gammas
+// are most of the cost of the general method at small shapes, nor the continued fraction.
 //
 // The inverse solves I_x(a, b) = t on the smaller tail t <= 1/2 and holds its unknown by
 // the distance from the nearer end of (0, 1), so that x and 1 - x both keep their digits.
