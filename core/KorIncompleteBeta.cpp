@@ -16,6 +16,12 @@
 // a, b up to 1e4, tails down to 1e-300 included. Far larger shapes lose accuracy: the
 // continued fraction needs about sqrt(max(a, b)) levels and stops at 2e5.
 //
+// The distributions' entry (special::IncompleteBeta in two Floats) first tries the closed
+// forms of I_x(a, b): the arcsine law at (1/2, 1/2), finite series where a shape is a small
+// whole number (an even number of degrees of freedom in the F family) or a = 1, and powers
+// by squaring for whole and half-whole exponents. They need neither B(a, b), whose gammas
+// are most of the cost of the general method at small shapes, nor the continued fraction.
+//
 // The inverse solves I_x(a, b) = t on the smaller tail t <= 1/2 and holds its unknown by
 // the distance from the nearer end of (0, 1), so that x and 1 - x both keep their digits.
 // It starts from the power laws of the two tails (which bound the root from one side or
@@ -279,6 +285,101 @@ BetaValue EvaluateIncompleteBeta(const UnitPair& point, Float a, Float b, LazyBe
     return {1 - u, u, prefix.value, prefix.log, share, false};
 }
 
+// ---- Closed forms ----------------------------------------------------------------------
+
+// Shapes up to this whole number take the finite series below: at most this many terms,
+// each a few multiply-adds, where the continued fraction costs the gammas of B(a, b) first.
+constexpr Float WholeShapeLimit = 40;
+
+// Adding and taking away 2^63 rounds v to a whole number without a change of the x87
+// rounding mode, which floor would need.
+bool SmallWhole(Float v) { return v <= WholeShapeLimit && (v + 0x1p63L) - 0x1p63L == v; }
+
+// sqrt(y) in two Floats: the rounded root corrected by the exact residual y - s^2.
+TwoFloat SquareRoot(const TwoFloat& y) {
+    const Float s = std::sqrt(y.hi);
+    const TwoFloat square = special::TwoProduct(s, s);
+    return special::FastTwoSum(s, ((y.hi - square.hi) - square.lo + y.lo) / (2 * s));
+}
+
+// y^p for y in (0, 1) given in two Floats: for a small whole or half-whole p by squaring
+// in two Floats, times the square root for the half; otherwise through the logarithm in
+// two Floats (p ln y reaches thousands).
+Float Power(const TwoFloat& y, Float p) {
+    const bool half = !SmallWhole(p);
+    if (half && !SmallWhole(p + 0.5L)) return special::Exp(special::Log(y) * p);
+    TwoFloat power = half ? SquareRoot(y) : TwoFloat{1, 0};
+    bool started = half;  // power holds a factor: no multiplication by 1
+    TwoFloat square = y;
+    for (Float n = half ? p - 0.5L : p; n != 0;) {  // the binary digits of n from the lowest
+        const Float halfN = n * 0.5L;
+        const bool odd = (halfN + 0x1p63L) - 0x1p63L != halfN;
+        if (odd) power = started ? power * square : square;
+        started = started || odd;
+        n = odd ? halfN - 0.5L : halfN;
+        if (n != 0) square = square * square;
+    }
+    return power.hi + power.lo;
+}
+
+// sum_{k < n} (p)_k / k! y^k for a whole n >= 1 and y in (0, 1) given in two Floats,
+// nested from the innermost term as the quotient u / v of two sums of positive terms: no
+// division but the last and no cancellation, so the rounding errors stay a few ulps. The
+// low part of y enters through the derivative du / dy: y^k would magnify its neglect by k.
+Float FiniteSeries(const TwoFloat& y, Float p, Float n) {
+    if (n == 1) return 1;
+    Float u = 1, v = 1, slope = 0;
+    for (Float k = n - 1; k >= 1; k -= 1) {
+        const Float kv = k * v, q = p + k - 1;
+        slope = q * (u + y.hi * slope);
+        u = kv + q * y.hi * u;
+        v = kv;
+    }
+    return (u + y.lo * slope) / v;
+}
+
+// I_x(1/2, 1/2), the arcsine law (2 / pi) asin(sqrt(x)), from the smaller of x and 1 - x,
+// where the arcsine is well conditioned (1 - hi is exact from 1/2 on). The square root
+// halves their relative errors, so the low parts move the result by less than half an ulp.
+Float ArcsineLaw(Float hi, Float lo) {
+    constexpr Float twoOverPi = 0.636619772367581343075535053490057448L;
+    return hi <= 0.5L ? twoOverPi * std::asin(std::sqrt(hi)) : 1 - twoOverPi * std::asin(std::sqrt((1 - hi) - lo));
+}
+
+// I_x(a, b) where it needs neither B(a, b) nor the continued fraction; false elsewhere.
+// - b whole: x^a sum_{k < b} (a)_k / k! (1 - x)^k, positive terms only.
+// - a = 1: 1 - (1 - x)^b; for a whole 2b the geometric series (1 - r) sum_{j < 2b} r^j in
+//   r = sqrt(1 - x), positive terms again, else from the logarithm of 1 - x.
+// - a whole: 1 minus the mirrored series (1 - x)^b sum_{k < a} (b)_k / k! x^k, taken only
+//   while that is at most 3/4, so that the subtraction costs at most two bits.
+bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
+    const TwoFloat &x = point.x, &c = point.complement;
+    if (SmallWhole(b)) {
+        const Float power = Power(x, a);
+        lower = power * FiniteSeries(c, a, b);
+        return power >= SmallestNormal;
+    }
+    if (a == 1) {
+        if (SmallWhole(2 * b)) {  // r = sqrt(1 - x), 1 - r = x / (1 + r)
+            const TwoFloat r = SquareRoot(c);
+            lower = x.hi / (1 + r.hi) * FiniteSeries(r, 1, 2 * b);
+            return true;
+        }
+        // log1p of the leading part of x and its low part to first order below 1/2, the
+        // logarithm of the exact 1 - x above.
+        const Float logC = x.hi < 0.5L ? std::log1p(-x.hi) - x.lo / c.hi : special::Log(c).hi;
+        lower = -std::expm1(b * logC);
+        return true;
+    }
+    if (SmallWhole(a)) {
+        const Float power = Power(c, b);
+        const Float upper = power * FiniteSeries(x, b, a);
+        lower = 1 - upper;
+        return power >= SmallestNormal && upper <= 0.75L;
+    }
+    return false;
+}
+
 bool ValidShapes(Float a, Float b) {
     return a > 0 && b > 0 && std::isfinite(a) && std::isfinite(b);
 }
@@ -459,18 +560,30 @@ UnitPoint SolveLowerTail(Float t, Float a, Float b) {
 
 }  // namespace
 
+// The public function keeps the continued fraction for every shape: the binomial tails
+// built on it need a tail and its mirror to sum to 1 within two ulps, closer than the
+// closed forms' few ulps.
 Float IncompleteBeta(Float X, Float A, Float B) {
     if (!ValidShapes(A, B) || !(X >= 0 && X <= 1)) return NaN;
-    return special::IncompleteBeta({X, 0}, A, B);
+    if (X == 0 || X == 1) return X;
+    LazyBeta beta(A, B);
+    return EvaluateIncompleteBeta({{X, 0}, special::TwoSum(1, -X)}, A, B, beta).lower;
 }
 
 namespace special {
 
-Float IncompleteBeta(TwoFloat x, Float a, Float b) {
+Float IncompleteBeta(const TwoFloat& x, Float a, Float b) {
     if (x.hi <= 0) return 0;
     if (x.hi >= 1 && x.lo >= 0) return 1;
+    // Loaded as Floats: a copy of the pair whole goes through 16-byte moves that stall on
+    // its 10-byte stores.
+    const Float hi = x.hi, lo = x.lo;
+    if (a == 0.5L && b == 0.5L) return ArcsineLaw(hi, lo);
+    const UnitPair point{{hi, lo}, TwoFloat{1, 0} - TwoFloat{hi, lo}};
+    Float closed;
+    if (ClosedForm(point, a, b, closed)) return closed < 1 ? closed : 1;  // rounding may pass 1
     LazyBeta beta(a, b);
-    return EvaluateIncompleteBeta({x, TwoFloat{1, 0} - x}, a, b, beta).lower;
+    return EvaluateIncompleteBeta(point, a, b, beta).lower;
 }
 
 Float BetaDensity(TwoFloat x, TwoFloat complement, Float a, Float b) {

@@ -34,6 +34,12 @@ Standardised Standardise(Float X, Float Lo, Float Hi) {
 
 // As for F: each tail its own incomplete beta, at z or at w.
 Float BetaTail(Float X, Float A, Float B, Float Lo, Float Hi, bool upper) {
+    if (Lo == 0 && Hi == 1) {  // z = X and w = 1 - X, without the divisions
+        if (X <= 0) return upper ? 1 : 0;
+        if (X >= 1) return upper ? 0 : 1;
+        return upper ? special::IncompleteBeta(special::TwoSum(1, -X), B, A)
+                     : special::IncompleteBeta({X, 0}, A, B);
+    }
     const Standardised p = Standardise(X, Lo, Hi);
     if (p.z.hi <= 0) return upper ? 1 : 0;
     if (p.w.hi <= 0) return upper ? 0 : 1;

@@ -24,6 +24,8 @@ void RequireF(Float x, Integer n1, Integer n2, const Platform::ResourceString& n
 // passed on in two Floats, so that neither argument's rounding shows in the result
 // (x^(N1 / 2) would magnify the rounding of one Float by N1 / 2).
 Float FDistTail(Float X, Integer N1, Integer N2, bool upper) {
+    // F(1, 1) is the square of a Cauchy variate: (2 / pi) atan(sqrt(X)) below X.
+    if (N1 == 1 && N2 == 1) return 2 * InversePi * std::atan(upper ? 1 / std::sqrt(X) : std::sqrt(X));
     const TwoFloat a = special::TwoProduct(N1, X);
     if (!std::isfinite(a.hi)) return upper ? 0 : 1;
     const Float b = N2;

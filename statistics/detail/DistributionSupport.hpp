@@ -19,6 +19,7 @@ using Platform::Require;
 using special::TwoFloat;
 
 inline constexpr Float Infinity = std::numeric_limits<Float>::infinity();
+inline constexpr Float InversePi = 0.318309886183790671537767526745028724L;
 
 inline void RequireProbability(Float p) { Require(p >= 0 && p <= 1, Kornum_RS_Math::rsValue01Inc); }
 inline void RequireDegrees(Integer df) { Require(df >= 1, Kornum_RS_Math::rsDF); }

@@ -18,6 +18,7 @@
 #pragma once
 
 #include "core/detail/ExtendedPrecision.hpp"
+#include "statistics/detail/DistributionSupport.hpp"
 
 #include <kornum/Kornumglobals.h>
 
@@ -66,8 +67,6 @@ inline StudentRatiosExact MakeStudentRatiosExact(Float t, Float n) {
     const TwoFloat denominator = TwoSum(n, square.hi) + TwoFloat{square.lo, 0};
     return {TwoFloat{n, 0} / denominator, square / denominator};
 }
-
-inline constexpr Float InversePi = 0.318309886183790671537767526745028724L;
 
 // The density at 0: Gamma((n + 1) / 2) / (sqrt(n pi) Gamma(n / 2)), which is m a_m / sqrt(n)
 // for n = 2m and sqrt(n) b_m / pi for n = 2m + 1.

@@ -4,6 +4,7 @@
 #include "StatisticsTestSupport.h"
 
 #include <kornum/KornumStatistics.h>
+#include <kornum/Kornummath.h>
 
 #include <cmath>
 #include <fstream>
@@ -106,6 +107,35 @@ TEST(ContinuousDistributions, ChiSquareTailsDoNotStopAtTheTolerance) {
         if ((row.kind != "chisq_less" && row.kind != "chisq_greater") || row.expected <= 1e-300L) continue;
         EXPECT_LE(std::fabs(Routines().at(row.kind)(row.arguments) / row.expected - 1), Allowed(row.kind))
             << row.kind << " " << double(row.arguments[0]) << " " << double(row.arguments[1]);
+    }
+}
+
+// The F and beta tails take closed forms where the shapes allow them (finite series for
+// whole shapes, powers for half-whole ones, the arcsine and Cauchy laws); the public
+// incomplete beta keeps the continued fraction for every shape, so each checks the other,
+// far into both tails (x and 1 - x below are exact).
+TEST(ContinuousDistributions, ClosedFormsAgreeWithTheContinuedFraction) {
+    const auto agree = [](Float got, Float expected, const char* what, Float a, Float b, Float x) {
+        if (expected < 1e-300L) return;
+        EXPECT_LE(std::fabs(got / expected - 1), 1e-17L)
+            << what << " (" << double(a) << ", " << double(b) << ") at " << double(x);
+    };
+    const std::pair<Float, Float> shapes[] = {{0.5L, 0.5L}, {1, 2.5L}, {1, 7.5L}, {3, 1},   {2.5L, 40},
+                                              {40, 2.5L},   {7, 12},   {0.3L, 3}, {12, 0.7L}, {1, 1}};
+    for (const auto& [a, b] : shapes)
+        for (int k = 1; k <= 62; ++k)
+            for (const Float x : {std::ldexp(Float(1), -k), 1 - std::ldexp(Float(1), -k), Float(k) / 63}) {
+                agree(BetaDistLess(x, a, b), Kornummath::IncompleteBeta(x, a, b), "less", a, b, x);
+                agree(BetaDistGreater(x, a, b), Kornummath::IncompleteBeta(1 - x, b, a), "greater", a, b, x);
+            }
+    // F(1, 1) on the small tail, at X = 2^-k: y = X / (1 + X) rounded is still good to
+    // 2^-64 there, and the large tail is its complement.
+    for (int k = 0; k <= 60; ++k) {
+        const Float X = std::ldexp(Float(1), -k);
+        const Float tail = Kornummath::IncompleteBeta(X / (1 + X), 0.5L, 0.5L);
+        agree(FDistLess(X, 1, 1), tail, "F less", 1, 1, X);
+        agree(FDistGreater(1 / X, 1, 1), tail, "F greater", 1, 1, 1 / X);
+        EXPECT_LE(std::fabs(FDistLess(X, 1, 1) + FDistGreater(X, 1, 1) - 1), 0x1p-62L) << double(X);
     }
 }
 

@@ -15,7 +15,7 @@ import sys
 
 # What the statistics library takes from the base library beyond the public headers.
 INTERNAL_INTERFACE = {
-    "Kornummath::special::IncompleteBeta(Kornummath::special::TwoFloat, long double, long double)",
+    "Kornummath::special::IncompleteBeta(Kornummath::special::TwoFloat const&, long double, long double)",
     "Kornummath::special::BetaDensity(Kornummath::special::TwoFloat, Kornummath::special::TwoFloat, long double, long double)",
     "Kornummath::special::InverseIncompleteBeta(long double, long double, long double, bool)",
 }
