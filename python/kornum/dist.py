@@ -49,11 +49,19 @@ class _Family:
         return _kornum.evaluate(self._family, function, x, list(self._parameters))
 
     def cdf(self, x: ArrayLike) -> Any:
-        """P(X <= x)."""
+        """P(X <= x).
+
+        >>> print(Normal().cdf([0, 1]))
+        [0.5        0.84134475]
+        """
         return self._call("cdf", x)
 
     def sf(self, x: ArrayLike) -> Any:
-        """P(X > x), computed from the upper tail itself."""
+        """P(X > x), computed from the upper tail itself.
+
+        >>> print(Normal().sf(40))
+        3.655893540915029704e-350
+        """
         return self._call("sf", x)
 
     def __repr__(self) -> str:
@@ -67,15 +75,27 @@ def _shown(value: np.ndarray) -> str:
 
 class _Continuous(_Family):
     def pdf(self, x: ArrayLike) -> Any:
-        """The probability density at x."""
+        """The probability density at x.
+
+        >>> print(Exponential(1).pdf(0))
+        1.0
+        """
         return self._call("pdf", x)
 
     def ppf(self, q: ArrayLike) -> Any:
-        """The x with P(X <= x) = q."""
+        """The x with P(X <= x) = q.
+
+        >>> print(Exponential(1).ppf(0.5))
+        0.69314718055994530943
+        """
         return self._call("ppf", q)
 
     def isf(self, q: ArrayLike) -> Any:
-        """The x with P(X > x) = q, computed from the upper tail."""
+        """The x with P(X > x) = q, computed from the upper tail.
+
+        >>> print(ChiSquare(2).isf(1e-300))
+        1381.5510557964274104
+        """
         return self._call("isf", q)
 
 
@@ -88,15 +108,27 @@ def _whole(values: Any) -> Any:
 
 class _Discrete(_Family):
     def pmf(self, k: ArrayLike) -> Any:
-        """P(X = k); 0 where k is not a whole number."""
+        """P(X = k); 0 where k is not a whole number.
+
+        >>> print(Binomial(4, 0.5).pmf([2, 2.5]))
+        [0.375 0.   ]
+        """
         return self._call("pdf", k)
 
     def ppf(self, q: ArrayLike) -> Any:
-        """The smallest k with P(X <= k) >= q."""
+        """The smallest k with P(X <= k) >= q.
+
+        >>> Poisson(3).ppf([0.1, 0.5, 0.9])
+        array([1, 3, 5])
+        """
         return _whole(self._call("ppf", q))
 
     def isf(self, q: ArrayLike) -> Any:
-        """The smallest k with P(X > k) <= q, computed from the upper tail."""
+        """The smallest k with P(X > k) <= q, computed from the upper tail.
+
+        >>> int(Binomial(10, 0.5).isf(1 / 1024))
+        9
+        """
         return _whole(self._call("isf", q))
 
 

@@ -329,17 +329,29 @@ def grouped_mode(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike) -> 
 
 
 def grouped_quartiles(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike) -> Tuple[Float, Float]:
-    """The first and third quartiles of grouped data."""
+    """The first and third quartiles of grouped data, interpolated within their classes.
+
+    >>> print(*grouped_quartiles([1, 2, 1], 0, 10))
+    10.0 20.0
+    """
     return _kornum.grouped_quartiles(frequencies, lower, width)
 
 
 def grouped_deciles(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike) -> np.ndarray:
-    """The nine deciles of grouped data."""
+    """The nine deciles of grouped data.
+
+    >>> print(grouped_deciles([1, 2, 1], 0, 10))
+    [ 4.  8. 11. 13. 15. 17. 19. 22. 26.]
+    """
     return _kornum.grouped_deciles(frequencies, lower, width)
 
 
 def grouped_sample_variance(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike) -> Float:
-    """The sample variance of grouped data."""
+    """The sample variance of grouped data, from the class midpoints.
+
+    >>> print(grouped_sample_variance([1, 2, 1], 0, 10) * 3)
+    200.0
+    """
     return _kornum.grouped_sample_variance(frequencies, lower, width)
 
 
@@ -353,12 +365,20 @@ def grouped_population_variance(frequencies: ArrayLike, lower: ArrayLike, width:
 
 
 def grouped_sample_sd(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike) -> Float:
-    """The sample standard deviation of grouped data."""
+    """The sample standard deviation of grouped data.
+
+    >>> print(grouped_sample_sd([1, 2], 0, 2))
+    1.154700538379251529
+    """
     return _kornum.grouped_sample_sd(frequencies, lower, width)
 
 
 def grouped_population_sd(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike) -> Float:
-    """The population standard deviation of grouped data."""
+    """The population standard deviation of grouped data.
+
+    >>> print(grouped_population_sd([1, 1], 0, 2))
+    1.0
+    """
     return _kornum.grouped_population_sd(frequencies, lower, width)
 
 
@@ -373,7 +393,11 @@ def grouped_sums(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike) -> 
 
 def grouped_mean_deviation(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike,
                            mean: Optional[ArrayLike] = None) -> Float:
-    """The mean absolute deviation of grouped data from ``mean`` (by default theirs)."""
+    """The mean absolute deviation of grouped data from ``mean`` (by default theirs).
+
+    >>> print(grouped_mean_deviation([1, 2, 1], 0, 10))
+    5.0
+    """
     centre = _kornum.grouped_mean(frequencies, lower, width) if mean is None else mean
     return _kornum.grouped_mean_deviation(frequencies, lower, width, centre)
 
@@ -387,27 +411,46 @@ def _grouped_shape(statistic: Any, spread: Any, frequencies: ArrayLike, lower: A
 
 def grouped_sample_skew(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike,
                         mean: Optional[ArrayLike] = None, sd: Optional[ArrayLike] = None) -> Float:
-    """The sample skewness of grouped data (their mean and sample sd unless given)."""
+    """The sample skewness of grouped data (their mean and sample sd unless given), in the
+    library's grouped form.
+
+    >>> print(grouped_sample_skew([1, 2, 1], 0, 10))
+    0.0
+    """
     return _grouped_shape(_kornum.grouped_sample_skew, _kornum.grouped_sample_sd, frequencies, lower, width, mean, sd)
 
 
 def grouped_population_skew(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike,
                             mean: Optional[ArrayLike] = None, sd: Optional[ArrayLike] = None) -> Float:
-    """The population skewness of grouped data (their mean and population sd unless given)."""
+    """The population skewness of grouped data (their mean and population sd unless
+    given), in the library's grouped form.
+
+    >>> print(grouped_population_skew([1, 2, 1], 0, 10))
+    0.0
+    """
     return _grouped_shape(_kornum.grouped_population_skew, _kornum.grouped_population_sd, frequencies, lower,
                           width, mean, sd)
 
 
 def grouped_sample_kurtosis(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike,
                             mean: Optional[ArrayLike] = None, sd: Optional[ArrayLike] = None) -> Float:
-    """The sample excess kurtosis of grouped data (their mean and sample sd unless given)."""
+    """The sample kurtosis of grouped data (their mean and sample sd unless given), in the
+    library's grouped form.
+
+    >>> print(grouped_sample_kurtosis([1, 2, 1], 0, 10) is not None)
+    True
+    """
     return _grouped_shape(_kornum.grouped_sample_kurtosis, _kornum.grouped_sample_sd, frequencies, lower, width,
                           mean, sd)
 
 
 def grouped_population_kurtosis(frequencies: ArrayLike, lower: ArrayLike, width: ArrayLike,
                                 mean: Optional[ArrayLike] = None, sd: Optional[ArrayLike] = None) -> Float:
-    """The population excess kurtosis of grouped data (their mean and population sd
-    unless given)."""
+    """The population kurtosis of grouped data (their mean and population sd unless
+    given), in the library's grouped form.
+
+    >>> print(grouped_population_kurtosis([1, 2, 1], 0, 10) is not None)
+    True
+    """
     return _grouped_shape(_kornum.grouped_population_kurtosis, _kornum.grouped_population_sd, frequencies, lower,
                           width, mean, sd)
