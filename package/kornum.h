@@ -31,3 +31,4 @@
 #include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/KornumMathLabel.h>
 #include <kornum/KornumPackage.h>
+#include <kornum/KornumSharded.h>

@@ -1,0 +1,208 @@
+#include <kornum/KornumSharded.h>
+
+#include "sharded/detail/Bytes.hpp"
+
+#include <kornum/Kornum_RS_DescStats.h>
+#include <kornum/Kornummath.h>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace KornumSharded {
+
+using namespace Kornum_RS_DescStats;
+
+// ---- Runs of equal neighbours --------------------------------------------------------
+
+TKorRunSummary TKorRunSummary::OfValues(std::vector<Float> Values) {
+    std::sort(Values.begin(), Values.end());
+    TKorRunSummary s;
+    for (const Float x : Values) {
+        TKorRunSummary one;
+        one.count_ = one.lead_ = one.trail_ = 1;
+        one.first_ = one.last_ = one.leadLast_ = x;
+        s.Append(one);
+    }
+    return s;
+}
+
+void TKorRunSummary::Close(Int64 Length, Float Value) {
+    if (Length < 2 || Length < best_) return;
+    if (Length == best_) {
+        ++bestRuns_;
+        return;
+    }
+    best_ = Length;
+    bestRuns_ = 1;
+    bestValue_ = Value;
+}
+
+void TKorRunSummary::Append(const TKorRunSummary& Next) {
+    if (Next.count_ == 0) return;
+    if (count_ == 0) {
+        *this = Next;
+        return;
+    }
+    const bool single = lead_ == count_, nextSingle = Next.lead_ == Next.count_;
+    const bool joined = Kornummath::SameFloat(last_, Next.first_);
+    // The closed runs of Next stay closed.
+    if (Next.bestRuns_) {
+        Close(Next.best_, Next.bestValue_);
+        if (Next.best_ == best_) bestRuns_ += Next.bestRuns_ - 1;
+    }
+    if (joined) {
+        const Int64 middle = trail_ + Next.lead_;  // ends at Next's first run's last value
+        if (single) {
+            lead_ = middle;
+            leadLast_ = Next.leadLast_;
+        } else if (!nextSingle) {
+            Close(middle, Next.leadLast_);
+        }
+        trail_ = nextSingle ? middle : Next.trail_;
+    } else {
+        if (!single) Close(trail_, last_);
+        if (!nextSingle) Close(Next.lead_, Next.leadLast_);
+        trail_ = Next.trail_;
+    }
+    count_ += Next.count_;
+    last_ = Next.last_;
+}
+
+bool TKorRunSummary::Mode(Float& Value) const {
+    if (count_ == 1) {
+        Value = first_;
+        return true;
+    }
+    TKorRunSummary all = *this;  // the open runs at both ends count as closed here
+    if (lead_ == count_) {
+        all.Close(lead_, leadLast_);
+    } else {
+        all.Close(lead_, leadLast_);
+        all.Close(trail_, last_);
+    }
+    Value = all.bestValue_;
+    return all.bestRuns_ == 1;
+}
+
+std::string TKorRunSummary::Serialize() const {
+    detail::ByteWriter out("KNRS", 1);
+    for (const Int64 n : {count_, lead_, trail_, best_, bestRuns_}) out.Unsigned(std::uint64_t(n), 8);
+    for (const Float x : {first_, last_, leadLast_, bestValue_}) out.Real(x);
+    return out.Take();
+}
+
+TKorRunSummary TKorRunSummary::Deserialize(std::string_view Bytes) {
+    detail::ByteReader in(Bytes, "KNRS", 1, "run summary");
+    TKorRunSummary s;
+    for (Int64* n : {&s.count_, &s.lead_, &s.trail_, &s.best_, &s.bestRuns_}) *n = Int64(in.Unsigned(8));
+    for (Float* x : {&s.first_, &s.last_, &s.leadLast_, &s.bestValue_}) *x = in.Real();
+    in.End();
+    const bool sane = s.count_ >= 0 && s.lead_ >= 0 && s.trail_ >= 0 && s.lead_ <= s.count_ && s.trail_ <= s.count_ &&
+                      (s.count_ == 0 || (s.lead_ >= 1 && s.trail_ >= 1)) && s.best_ >= 0 && s.best_ <= s.count_ &&
+                      s.bestRuns_ >= 0 && (s.bestRuns_ == 0) == (s.best_ == 0);
+    if (!sane) in.Fail("its run lengths are inconsistent");
+    return s;
+}
+
+// ---- The report ----------------------------------------------------------------------
+
+namespace {
+
+// The ranks (from 0) of the neighbours of 1-based position P = n * q + 0.5, and the
+// weight of the upper one, as the order statistics interpolate.
+struct Position {
+    Int64 Below, Above;
+    Float Fraction;
+};
+
+Position QuartilePosition(Int64 n, Float P) {
+    const Float truncated = std::trunc(P);
+    const Int64 k = Int64(truncated);
+    if (k <= 0) return {0, 0, 0};
+    if (k >= n) return {n - 1, n - 1, 0};
+    return {k - 1, k, P - truncated};
+}
+
+std::pair<Position, Position> Quartiles(Int64 n) {
+    if (n == 1) return {{0, 0, 0}, {0, 0, 0}};
+    return {QuartilePosition(n, Float(n) / 4.0L + 0.5L), QuartilePosition(n, Float(3 * n) / 4.0L + 0.5L)};
+}
+
+}  // namespace
+
+std::vector<Int64> ReportRanks(Int64 N) {
+    std::vector<Int64> ranks = {(N - 1) / 2, N / 2};
+    const auto [q1, q3] = Quartiles(N);
+    for (const Position& p : {q1, q3}) {
+        ranks.push_back(p.Below);
+        ranks.push_back(p.Above);
+    }
+    std::sort(ranks.begin(), ranks.end());
+    ranks.erase(std::unique(ranks.begin(), ranks.end()), ranks.end());
+    return ranks;
+}
+
+std::vector<KornumDescStats::TKorReportEntry> ReportEntries(const TKorShardSummary& Summary, bool Population,
+                                                            const std::vector<Float>& RankValues, bool ModeExists,
+                                                            Float Mode) {
+    std::vector<KornumDescStats::TKorReportEntry> entries;
+    const Int64 n = Summary.Count();
+    if (n == 0) return entries;
+    const std::vector<Int64> ranks = ReportRanks(n);
+    std::map<Int64, Float> at;
+    for (std::size_t i = 0; i < ranks.size(); ++i) at[ranks[i]] = RankValues.at(i);
+    const auto interpolated = [&](const Position& p) {
+        const Float below = at.at(p.Below), above = at.at(p.Above);
+        return p.Fraction == 0 && p.Below == p.Above ? below : (above - below) * p.Fraction + below;
+    };
+    const Float median = n % 2 ? at.at(n / 2) : (at.at(n / 2 - 1) + at.at(n / 2)) / 2.0L;
+    const auto [q1Position, q3Position] = Quartiles(n);
+    const Float q1 = interpolated(q1Position), q3 = interpolated(q3Position);
+    const TKorMoments m = Summary.Moments(Population);
+
+    const auto line = [&](const char* key, const Platform::ResourceString& caption, Float value) {
+        entries.push_back({key, caption.Text(), value});
+    };
+    const auto alone = [&](const char* key, const Platform::ResourceString& message) {
+        entries.push_back({key, message.Text(), std::nullopt});
+    };
+    entries.push_back({"count", rsDSNoOfValues.Text(), Float(n), true});
+    line("maximum", rsDSMaximum, Summary.Maximum());
+    line("minimum", rsDSMinimum, Summary.Minimum());
+    line("range", rsDSRange, Summary.Maximum() - Summary.Minimum());
+    line("sum", rsDSSum, m.Sum);
+    line("sum_of_squares", rsDSSumSQ, m.SumSq);
+    line("mean", rsDSMean, m.Mean);
+    if (ModeExists)
+        line("mode", rsDSMode, Mode);
+    else
+        alone("mode", rsDSNoMode);
+    line("median", rsDSMedian, median);
+    if (!Population && n == 1) {
+        alone("variance", rsDSNEVariance);
+        alone("standard_deviation", rsDSNEStdDev);
+    } else {
+        line("variance", rsDSVariance, m.Variance);
+        line("standard_deviation", rsDSStdDev, m.StdDev);
+    }
+    const bool zeroSpread = Kornummath::FloatIsZero(m.StdDev);
+    if (n < 4)
+        alone("kurtosis", rsDSNEKurtosis);
+    else if (zeroSpread)
+        alone("kurtosis", rsDSSDKurtosis);
+    else
+        line("kurtosis", rsDSKurtosis, m.Kurtosis);
+    if (n < 3)
+        alone("skew", rsDSNESkew);
+    else if (zeroSpread)
+        alone("skew", rsDSSDSkew);
+    else
+        line("skew", rsDSSkew, m.Skew);
+    line("first_quartile", rsDSQtr1, q1);
+    line("third_quartile", rsDSQtr3, q3);
+    line("interquartile_range", rsDSIQR, q3 - q1);
+    return entries;
+}
+
+}  // namespace KornumSharded
