@@ -18,12 +18,28 @@ using namespace Kornum_RS_DescStats;
 TKorRunSummary TKorRunSummary::OfValues(std::vector<Float> Values) {
     std::sort(Values.begin(), Values.end());
     TKorRunSummary s;
-    for (const Float x : Values) {
-        TKorRunSummary one;
-        one.count_ = one.lead_ = one.trail_ = 1;
-        one.first_ = one.last_ = one.leadLast_ = x;
-        s.Append(one);
+    if (Values.empty()) return s;
+    // One walk over the runs of equal neighbours: the first is the open run at the start,
+    // the last the open run at the end, the others are closed.
+    const std::size_t n = Values.size();
+    std::size_t start = 0;
+    for (std::size_t i = 1; i <= n; ++i) {
+        if (i < n && Kornummath::SameFloat(Values[i], Values[i - 1])) continue;
+        const Int64 length = Int64(i - start);
+        if (start == 0) {
+            s.lead_ = length;
+            s.leadLast_ = Values[i - 1];
+        }
+        if (i == n) {
+            s.trail_ = length;
+        } else if (start != 0) {
+            s.Close(length, Values[i - 1]);
+        }
+        start = i;
     }
+    s.count_ = Int64(n);
+    s.first_ = Values.front();
+    s.last_ = Values.back();
     return s;
 }
 

@@ -133,7 +133,9 @@ void ExpectSameReport(const std::vector<KornumDescStats::TKorReportEntry>& singl
             continue;
         }
         EXPECT_LE(std::fabs(theirs - mine), 1e-14L * (1 + std::fabs(theirs)));
-        if (reference.count(single[i].Key)) EXPECT_LE(UlpsApart(reference.at(single[i].Key), mine), 1);
+        if (reference.count(single[i].Key)) {
+            EXPECT_LE(UlpsApart(reference.at(single[i].Key), mine), 1);
+        }
     }
 }
 
