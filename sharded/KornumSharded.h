@@ -164,9 +164,12 @@ private:
 };
 
 /// Cut points that split keys into Parts ranges of about equal counts, from the merged
-/// histogram of the top 16 key bits (`PrefixCounts` with a request of 0 bits): ascending
-/// keys, each the first key of a range after the first; a bucket is never split.
-std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts, int Parts);
+/// histogram of the top 16 key bits (`PrefixCounts` with a request of 0 bits) and, for
+/// the top buckets listed in Finer, the histogram of their next 16 bits: ascending keys,
+/// each the first key of a range after the first. A bucket (of 16 or 32 bits) is never
+/// split.
+std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
+                                 const std::vector<std::pair<std::uint32_t, TKorHistogram>>& Finer, int Parts);
 /// Values split by the ranges of Bounds (from `RangeBounds`): part i holds the values whose
 /// key is at least Bounds[i - 1] and below Bounds[i].
 std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, const std::vector<TKorKey>& Bounds);

@@ -97,16 +97,27 @@ std::vector<Float> CollectPrefix(std::span<const Float> Values, TKorKey Prefix, 
     return result;
 }
 
-std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts, int Parts) {
+std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
+                                 const std::vector<std::pair<std::uint32_t, TKorHistogram>>& Finer, int Parts) {
+    // The buckets in key order, each as its first key and its count.
+    std::vector<std::pair<TKorKey, std::uint64_t>> buckets;
+    for (const auto& [top, count] : TopCounts) {
+        const auto finer = std::find_if(Finer.begin(), Finer.end(), [&](const auto& f) { return f.first == top; });
+        if (finer == Finer.end()) {
+            buckets.push_back({{std::uint16_t(top), 0}, count});
+            continue;
+        }
+        for (const auto& [next, subcount] : finer->second)
+            buckets.push_back({{std::uint16_t(top), std::uint64_t(next) << 48}, subcount});
+    }
     std::uint64_t total = 0;
-    for (const auto& bucket : TopCounts) total += bucket.second;
+    for (const auto& bucket : buckets) total += bucket.second;
     std::vector<TKorKey> bounds;
     std::uint64_t seen = 0;
-    for (const auto& [bucket, count] : TopCounts) {
+    for (const auto& [key, count] : buckets) {
         // A new range starts at a bucket once the ranges so far hold their share.
-        if (seen > 0 && int(bounds.size()) + 1 < Parts &&
-            u128(seen) * Parts >= u128(total) * (bounds.size() + 1))
-            bounds.push_back({std::uint16_t(bucket), 0});
+        if (seen > 0 && int(bounds.size()) + 1 < Parts && u128(seen) * Parts >= u128(total) * (bounds.size() + 1))
+            bounds.push_back(key);
         seen += count;
     }
     return bounds;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <utility>
 
 namespace KornumSharded {
 
@@ -15,10 +16,36 @@ using namespace Kornum_RS_DescStats;
 
 // ---- Runs of equal neighbours --------------------------------------------------------
 
+namespace {
+
+// The values in ascending order by a radix sort of their keys: 16 bits a pass from the
+// least significant, skipping the passes whose digit is the same for every value (most
+// of them within a narrow range of keys).
+void SortByKey(std::vector<Float>& values) {
+    std::vector<TKorKey> keys(values.size()), spare(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) keys[i] = KeyOf(values[i]);
+    std::vector<std::size_t> counts(std::size_t(1) << 16);
+    for (int pass = 0; pass < 5; ++pass) {
+        const auto digit = [pass](const TKorKey& k) {
+            return pass == 4 ? std::size_t(k.High) : std::size_t(k.Low >> (16 * pass)) & 0xffff;
+        };
+        std::fill(counts.begin(), counts.end(), 0);
+        for (const TKorKey& k : keys) ++counts[digit(k)];
+        if (counts[digit(keys[0])] == keys.size()) continue;
+        std::size_t start = 0;
+        for (std::size_t& c : counts) start += std::exchange(c, start);
+        for (const TKorKey& k : keys) spare[counts[digit(k)]++] = k;
+        keys.swap(spare);
+    }
+    for (std::size_t i = 0; i < values.size(); ++i) values[i] = ValueOf(keys[i]);
+}
+
+}  // namespace
+
 TKorRunSummary TKorRunSummary::OfValues(std::vector<Float> Values) {
-    std::sort(Values.begin(), Values.end());
     TKorRunSummary s;
     if (Values.empty()) return s;
+    SortByKey(Values);
     // One walk over the runs of equal neighbours: the first is the open run at the start,
     // the last the open run at the end, the others are closed.
     const std::size_t n = Values.size();

@@ -154,24 +154,35 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
     if n == 0:
         return Description(_kornum.describe([], population=bool(population)), bool(population))
 
+    parts = max(1, len(chunks))
+    # The top buckets too large for one range of the mode are counted finer, with the
+    # selection's own counts where a pass runs anyway.
+    heavy = [(bucket, 0, 16) for bucket, count in tops[0] if mode and count * parts > n]
+    finer: Dict[int, Any] = {}
+
+    def counted(requests: List[Any]) -> List[Any]:
+        asked = requests + [h for h in heavy if h not in requests and h[0] not in finer]
+        counts, = _compute(progress, dask.delayed(_kornum.merge_counts)(
+            [dask.delayed(_kornum.prefix_counts)(c, asked) for c in chunks]))
+        finer.update((request[0], count) for request, count in zip(asked, counts) if request in heavy)
+        return counts[:len(requests)]
+
     selection = _kornum.RankSelection(n, _kornum.report_ranks(n), GATHER_LIMIT)
     while not selection.done():
         if selection.gathering():
             prefixes = selection.gather_prefixes()
             lists = _compute(progress, *[dask.delayed(_kornum.collect_prefix)(c, prefixes) for c in chunks])
             selection.gathered(_gathered(list(lists), len(prefixes)))
-            continue
-        requests = selection.requests()
-        if requests == [(0, 0, 0)]:
-            counts = tops  # the first pass counted these already
+        elif selection.requests() == [(0, 0, 0)]:
+            selection.narrow(tops)  # the first pass counted these already
         else:
-            counts, = _compute(progress, dask.delayed(_kornum.merge_counts)(
-                [dask.delayed(_kornum.prefix_counts)(c, requests) for c in chunks]))
-        selection.narrow(counts)
+            selection.narrow(counted(selection.requests()))
 
     mode_exists, mode_value = False, 0.0
     if mode:
-        bounds = _kornum.range_bounds(tops[0], max(1, len(chunks)))
+        if any(h[0] not in finer for h in heavy):
+            counted([])
+        bounds = _kornum.range_bounds(tops[0], sorted(finer.items()), parts)
         splits = [dask.delayed(_kornum.split_by_range, nout=len(bounds) + 1)(c, bounds) for c in chunks]
         runs = [dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)([s[i] for s in splits]))
                 for i in range(len(bounds) + 1)]

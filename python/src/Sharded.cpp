@@ -138,11 +138,12 @@ void BindSharded(py::module_& m) {
                   lists.append(FromFloats(CollectPrefix(Span(array), {high, low}, bits)));
               return lists;
           }, py::arg("values"), py::arg("prefixes"));
-    m.def("range_bounds", [](const TKorHistogram& top, int parts) {
+    m.def("range_bounds", [](const TKorHistogram& top, const std::vector<std::pair<std::uint32_t, TKorHistogram>>& finer,
+                             int parts) {
               std::vector<KeyTuple> bounds;
-              for (const TKorKey& k : RangeBounds(top, parts)) bounds.emplace_back(k.High, k.Low);
+              for (const TKorKey& k : RangeBounds(top, finer, parts)) bounds.emplace_back(k.High, k.Low);
               return bounds;
-          }, py::arg("top_counts"), py::arg("parts"));
+          }, py::arg("top_counts"), py::arg("finer"), py::arg("parts"));
     m.def("split_by_range", [](py::handle values, const std::vector<KeyTuple>& bounds) {
               const FloatArray array = ToFloatVector(values, "values");
               std::vector<TKorKey> keys;

@@ -58,7 +58,13 @@ std::vector<KornumDescStats::TKorReportEntry> ShardedReport(const std::vector<st
     }
     std::vector<TKorHistogram> top;
     for (const auto& shard : shards) MergeCounts(top, PrefixCounts(shard, {TKorPrefixRequest{}}));
-    const std::vector<TKorKey> bounds = RangeBounds(top[0], 5);
+    std::vector<TKorPrefixRequest> heavy;  // the top buckets to split finer
+    for (const auto& [bucket, count] : top[0]) heavy.push_back({{std::uint16_t(bucket), 0}, 16});
+    std::vector<TKorHistogram> next;
+    for (const auto& shard : shards) MergeCounts(next, PrefixCounts(shard, heavy));
+    std::vector<std::pair<std::uint32_t, TKorHistogram>> finer;
+    for (std::size_t i = 0; i < heavy.size(); i += 2) finer.push_back({heavy[i].Prefix.High, next[i]});
+    const std::vector<TKorKey> bounds = RangeBounds(top[0], finer, 5);
     std::vector<std::vector<Float>> ranges(bounds.size() + 1);
     for (const auto& shard : shards) {
         const auto split = SplitByRange(shard, bounds);
