@@ -64,11 +64,18 @@ class TKorShardSummary {
 public:
     /// An empty summary.
     TKorShardSummary();
+    /// Releases the sums.
     ~TKorShardSummary();
+    /// @name Copy and move
+    /// @{
+
+    /// A summary is a value: copies are independent; a moved-from summary may only be
+    /// assigned or destroyed.
     TKorShardSummary(const TKorShardSummary&);
     TKorShardSummary& operator=(const TKorShardSummary&);
     TKorShardSummary(TKorShardSummary&&) noexcept;
     TKorShardSummary& operator=(TKorShardSummary&&) noexcept;
+    /// @}
 
     /// Adds the values. NaN and infinities are counted apart; with any of them the
     /// moments follow IEEE arithmetic (see `Moments`).
