@@ -1,8 +1,8 @@
 #include <kornum/KornumSharded.h>
 
+#include "components/detail/ReportEntries.hpp"
 #include "sharded/detail/Bytes.hpp"
 
-#include <kornum/Kornum_RS_DescStats.h>
 #include <kornum/Kornummath.h>
 
 #include <algorithm>
@@ -11,8 +11,6 @@
 #include <utility>
 
 namespace KornumSharded {
-
-using namespace Kornum_RS_DescStats;
 
 // ---- Runs of equal neighbours --------------------------------------------------------
 
@@ -189,9 +187,8 @@ std::vector<Int64> ReportRanks(Int64 N) {
 std::vector<KornumDescStats::TKorReportEntry> ReportEntries(const TKorShardSummary& Summary, bool Population,
                                                             const std::vector<Float>& RankValues, bool ModeExists,
                                                             Float Mode) {
-    std::vector<KornumDescStats::TKorReportEntry> entries;
     const Int64 n = Summary.Count();
-    if (n == 0) return entries;
+    if (n == 0) return {};
     const std::vector<Int64> ranks = ReportRanks(n);
     std::map<Int64, Float> at;
     for (std::size_t i = 0; i < ranks.size(); ++i) at[ranks[i]] = RankValues.at(i);
@@ -203,49 +200,9 @@ std::vector<KornumDescStats::TKorReportEntry> ReportEntries(const TKorShardSumma
     const auto [q1Position, q3Position] = Quartiles(n);
     const Float q1 = interpolated(q1Position), q3 = interpolated(q3Position);
     const TKorMoments m = Summary.Moments(Population);
-
-    const auto line = [&](const char* key, const Platform::ResourceString& caption, Float value) {
-        entries.push_back({key, caption.Text(), value});
-    };
-    const auto alone = [&](const char* key, const Platform::ResourceString& message) {
-        entries.push_back({key, message.Text(), std::nullopt});
-    };
-    entries.push_back({"count", rsDSNoOfValues.Text(), Float(n), true});
-    line("maximum", rsDSMaximum, Summary.Maximum());
-    line("minimum", rsDSMinimum, Summary.Minimum());
-    line("range", rsDSRange, Summary.Maximum() - Summary.Minimum());
-    line("sum", rsDSSum, m.Sum);
-    line("sum_of_squares", rsDSSumSQ, m.SumSq);
-    line("mean", rsDSMean, m.Mean);
-    if (ModeExists)
-        line("mode", rsDSMode, Mode);
-    else
-        alone("mode", rsDSNoMode);
-    line("median", rsDSMedian, median);
-    if (!Population && n == 1) {
-        alone("variance", rsDSNEVariance);
-        alone("standard_deviation", rsDSNEStdDev);
-    } else {
-        line("variance", rsDSVariance, m.Variance);
-        line("standard_deviation", rsDSStdDev, m.StdDev);
-    }
-    const bool zeroSpread = Kornummath::FloatIsZero(m.StdDev);
-    if (n < 4)
-        alone("kurtosis", rsDSNEKurtosis);
-    else if (zeroSpread)
-        alone("kurtosis", rsDSSDKurtosis);
-    else
-        line("kurtosis", rsDSKurtosis, m.Kurtosis);
-    if (n < 3)
-        alone("skew", rsDSNESkew);
-    else if (zeroSpread)
-        alone("skew", rsDSSDSkew);
-    else
-        line("skew", rsDSSkew, m.Skew);
-    line("first_quartile", rsDSQtr1, q1);
-    line("third_quartile", rsDSQtr3, q3);
-    line("interquartile_range", rsDSIQR, q3 - q1);
-    return entries;
+    return KornumDescStats::detail::ReportEntriesOf({n, Population, Summary.Maximum(), Summary.Minimum(), m.Sum, m.SumSq,
+                                                     m.Mean, ModeExists, Mode, median, m.Variance, m.StdDev,
+                                                     m.Kurtosis, m.Skew, q1, q3});
 }
 
 }  // namespace KornumSharded

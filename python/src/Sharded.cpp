@@ -4,6 +4,7 @@
 
 #include "Arrays.hpp"
 #include "Errors.hpp"
+#include "ReportEntries.hpp"
 #include "cli/Input.h"
 #include "frontend/NumberText.h"
 #include "frontend/ReportText.h"
@@ -69,13 +70,7 @@ public:
         const std::vector<Float> ranks(rankValues.data(), rankValues.data() + rankValues.size());
         entries_ = ReportEntries(TKorShardSummary::Deserialize(summary), population, ranks, modeExists, mode);
     }
-    py::list Entries() const {
-        py::list list;
-        for (const auto& entry : entries_)
-            list.append(py::make_tuple(entry.Key, entry.Caption, entry.Value ? Scalar(*entry.Value) : py::none(),
-                                       entry.Integral));
-        return list;
-    }
+    py::list Entries() const { return EntryTuples(entries_); }
     std::string Report(std::optional<int> decimals) const {
         if (!decimals) return KornumFrontend::ShortestReportText(entries_);
         if (*decimals < 0 || *decimals > 255) ArgumentError(PyExc_ValueError, "decimals", "must be from 0 to 255");
