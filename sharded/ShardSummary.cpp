@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <unordered_map>
 
 namespace KornumSharded {
 
@@ -57,23 +58,36 @@ struct TKorShardSummary::Sums {
             Negative[k - 1].assign(LimbCount(k), 0);
         }
     }
-    void Add(const Decomposed& d) {
-        if (d.significand == 0) return;
-        const std::uint64_t m = d.significand;
+    // The powers of the significands of one sign and exponent, summed as integers: most
+    // values of a batch share a few exponents, so the shifted adds into the long
+    // accumulators happen once a bin rather than once a value.
+    struct Bin {
+        Decomposed Key;
+        std::uint64_t S1[2] = {}, S2[3] = {}, S3[4] = {}, S4[5] = {};
+    };
+    // Adds the 128-bit v to the multi-word sum w.
+    template <std::size_t N>
+    static void AddWide(std::uint64_t (&w)[N], u128 v) {
+        for (std::size_t i = 0; i < N && v; ++i) {
+            const u128 t = u128(w[i]) + std::uint64_t(v);
+            w[i] = std::uint64_t(t);
+            v = (v >> 64) + (t >> 64);
+        }
+    }
+    template <std::size_t N>
+    static void AddWords(std::uint64_t (&w)[N], const std::uint64_t* words, std::size_t count) {
+        u128 carry = 0;
+        for (std::size_t i = 0; i < N; ++i) {
+            carry += u128(w[i]) + (i < count ? words[i] : 0);
+            w[i] = std::uint64_t(carry);
+            carry >>= 64;
+        }
+    }
+    static void AddToBin(Bin& bin, std::uint64_t m) {
         const u128 square = u128(m) * m;
-        std::uint64_t w[5];
-        // m^1
-        w[0] = m;
-        AddPower(1, d, w, 1);
-        // m^2
-        w[0] = std::uint64_t(square);
-        w[1] = std::uint64_t(square >> 64);
-        AddPower(2, d, w, 2);
-        // m^3 = m^2 * m
-        u128 low = u128(w[0]) * m, high = u128(w[1]) * m + (low >> 64);
-        std::uint64_t cube[3] = {std::uint64_t(low), std::uint64_t(high), std::uint64_t(high >> 64)};
-        AddPower(3, d, cube, 3);
-        // m^4 = m^3 * m
+        const std::uint64_t s2[2] = {std::uint64_t(square), std::uint64_t(square >> 64)};
+        const u128 low = u128(s2[0]) * m, high = u128(s2[1]) * m + (low >> 64);
+        const std::uint64_t cube[3] = {std::uint64_t(low), std::uint64_t(high), std::uint64_t(high >> 64)};
         std::uint64_t fourth[4];
         u128 carry = 0;
         for (int i = 0; i < 3; ++i) {
@@ -82,7 +96,40 @@ struct TKorShardSummary::Sums {
             carry >>= 64;
         }
         fourth[3] = std::uint64_t(carry);
-        AddPower(4, d, fourth, 4);
+        AddWide(bin.S1, m);
+        AddWords(bin.S2, s2, 2);
+        AddWords(bin.S3, cube, 3);
+        AddWords(bin.S4, fourth, 4);
+    }
+    // Adds the finite values and counts the infinities (NaN are skipped).
+    void AddBatch(std::span<const Float> values, Int64& plusInf, Int64& minusInf) {
+        std::vector<Bin> bins;
+        std::unordered_map<std::int64_t, std::size_t> binOf;  // by 2 * exponent + sign
+        std::int64_t lastKey = 0;
+        std::size_t last = 0;
+        for (const Float x : values) {
+            if (!std::isfinite(x)) {
+                if (!std::isnan(x)) ++(x > 0 ? plusInf : minusInf);
+                continue;
+            }
+            const Decomposed d = Decompose(x);
+            if (d.significand == 0) continue;
+            const std::int64_t key = 2 * d.exponent + d.negative;
+            if (bins.empty() || key != lastKey) {
+                const auto [at, added] = binOf.try_emplace(key, bins.size());
+                if (added) bins.push_back({d});
+                last = at->second;
+                lastKey = key;
+            }
+            AddToBin(bins[last], d.significand);
+        }
+        for (const Bin& bin : bins) {
+            AddPower(1, bin.Key, bin.S1, 2);
+            AddPower(2, bin.Key, bin.S2, 3);
+            AddPower(3, bin.Key, bin.S3, 4);
+            AddPower(4, bin.Key, bin.S4, 5);
+        }
+        Normalize();
     }
     void AddPower(int k, const Decomposed& d, const std::uint64_t* words, int count) {
         const bool negative = d.negative && (k % 2 == 1);
@@ -157,20 +204,15 @@ TKorShardSummary& TKorShardSummary::operator=(TKorShardSummary&& o) noexcept {
 
 void TKorShardSummary::Add(std::span<const Float> Values) {
     for (const Float x : Values) {
-        if (std::isnan(x)) {
-            ++nan_;
-        } else if (std::isinf(x)) {
-            ++(x > 0 ? plusInf_ : minusInf_);
-        } else {
-            sums_->Add(Decompose(x));
-        }
         if (!std::isnan(x)) {
             if (count_ == nan_ || x < minimum_) minimum_ = x;
             if (count_ == nan_ || x > maximum_) maximum_ = x;
+        } else {
+            ++nan_;
         }
         ++count_;
     }
-    sums_->Normalize();
+    sums_->AddBatch(Values, plusInf_, minusInf_);
 }
 
 void TKorShardSummary::Merge(const TKorShardSummary& Other) {
