@@ -1,6 +1,7 @@
 #include <kornum/KornumDescStats.h>
 
 #include "components/detail/AscendingCopy.hpp"
+#include "components/detail/ReportEntries.hpp"
 
 #include <kornum/KornumPackage.h>
 #include <kornum/KornumStatistics.h>
@@ -242,55 +243,8 @@ void TKorDescStats::UpdateStats() {
 
 std::vector<TKorReportEntry> TKorDescStats::ReportEntries() {
     if (updating_) EndUpdate();
-    std::vector<TKorReportEntry> entries;
-    const Integer n = values_.Length();
-    if (n == 0) return entries;
-    const auto line = [&](const char* key, const Platform::ResourceString& caption, Float value) {
-        entries.push_back({key, caption.Text(), value});
-    };
-    const auto alone = [&](const char* key, const Platform::ResourceString& message) {
-        entries.push_back({key, message.Text(), std::nullopt});
-    };
-
-    entries.push_back({"count", rsDSNoOfValues.Text(), Float(n), true});
-    line("maximum", rsDSMaximum, maximum_);
-    line("minimum", rsDSMinimum, minimum_);
-    line("range", rsDSRange, maximum_ - minimum_);
-    line("sum", rsDSSum, sum_);
-    line("sum_of_squares", rsDSSumSQ, sumSq_);
-    line("mean", rsDSMean, mean_);
-    if (modeExists_) {
-        line("mode", rsDSMode, mode_);
-    } else {
-        alone("mode", rsDSNoMode);
-    }
-    line("median", rsDSMedian, median_);
-    if (!population_ && n == 1) {
-        alone("variance", rsDSNEVariance);
-        alone("standard_deviation", rsDSNEStdDev);
-    } else {
-        line("variance", rsDSVariance, variance_);
-        line("standard_deviation", rsDSStdDev, stdDev_);
-    }
-    const bool zeroSpread = Kornummath::FloatIsZero(stdDev_);
-    if (n < 4) {
-        alone("kurtosis", rsDSNEKurtosis);
-    } else if (zeroSpread) {
-        alone("kurtosis", rsDSSDKurtosis);
-    } else {
-        line("kurtosis", rsDSKurtosis, kurtosis_);
-    }
-    if (n < 3) {
-        alone("skew", rsDSNESkew);
-    } else if (zeroSpread) {
-        alone("skew", rsDSSDSkew);
-    } else {
-        line("skew", rsDSSkew, skew_);
-    }
-    line("first_quartile", rsDSQtr1, quartile1st_);
-    line("third_quartile", rsDSQtr3, quartile3rd_);
-    line("interquartile_range", rsDSIQR, iqr_);
-    return entries;
+    return detail::ReportEntriesOf({values_.Length(), population_, maximum_, minimum_, sum_, sumSq_, mean_, modeExists_,
+                                    mode_, median_, variance_, stdDev_, kurtosis_, skew_, quartile1st_, quartile3rd_});
 }
 
 // The text report: each entry's caption, and for a value a TAB and its text.

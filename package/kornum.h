@@ -35,3 +35,4 @@
 #include <kornum/KornumVectorEdit.h>
 #include <kornum/KornumMatrixEdit.h>
 #include <kornum/KornumPackage.h>
+#include <kornum/KornumSharded.h>

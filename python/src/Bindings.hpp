@@ -10,5 +10,6 @@ void BindDistributions(pybind11::module_& m);
 void BindRandom(pybind11::module_& m);
 void BindStats(pybind11::module_& m);
 void BindLinalg(pybind11::module_& m);
+void BindSharded(pybind11::module_& m);
 
 }  // namespace KornumPython

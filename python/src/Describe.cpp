@@ -4,6 +4,7 @@
 
 #include "Arrays.hpp"
 #include "Errors.hpp"
+#include "ReportEntries.hpp"
 #include "frontend/ReportText.h"
 
 #include <kornum/KornumDescStats.h>
@@ -30,13 +31,7 @@ public:
     }
 
     // (key, caption, value or None, integral) for each line of the report.
-    py::list Entries() const {
-        py::list list;
-        for (const auto& entry : entries_)
-            list.append(py::make_tuple(entry.Key, entry.Caption, entry.Value ? Scalar(*entry.Value) : py::none(),
-                                       entry.Integral));
-        return list;
-    }
+    py::list Entries() const { return EntryTuples(entries_); }
 
     // The report as `kornum describe` prints it: with `decimals` the component's own text,
     // without (None) every value in the shortest form.

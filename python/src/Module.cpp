@@ -21,4 +21,5 @@ PYBIND11_MODULE(_kornum, m, pybind11::mod_gil_not_used()) {
     KornumPython::BindRandom(m);
     KornumPython::BindStats(m);
     KornumPython::BindLinalg(m);
+    KornumPython::BindSharded(m);
 }

@@ -1,0 +1,182 @@
+// kornum.dask's engine: the exact shard summaries, the selection of ranks by key prefixes
+// and the runs for the mode, as bytes and arrays that Dask moves between workers.
+#include "Bindings.hpp"
+
+#include "Arrays.hpp"
+#include "Errors.hpp"
+#include "ReportEntries.hpp"
+#include "cli/Input.h"
+#include "frontend/NumberText.h"
+#include "frontend/ReportText.h"
+
+#include <kornum/KornumSharded.h>
+#include <kornum/Kornum_RS_Math.h>
+#include <kornum/Kornumconvert.h>
+#include <kornum/Platform.h>
+
+namespace KornumPython {
+
+namespace {
+
+using namespace KornumSharded;
+using Kornumglobals::Int64;
+
+std::span<const Float> Span(const FloatArray& a) { return {a.data(), std::size_t(a.size())}; }
+
+py::array_t<Float> FromFloats(const std::vector<Float>& values) {
+    py::array_t<Float> result(py::ssize_t(values.size()));
+    std::copy(values.begin(), values.end(), result.mutable_data());
+    return result;
+}
+
+// Keys cross into Python as (high, low) pairs, prefix requests as (high, low, bits).
+using KeyTuple = std::pair<std::uint16_t, std::uint64_t>;
+using RequestTuple = std::tuple<std::uint16_t, std::uint64_t, int>;
+
+std::vector<TKorPrefixRequest> Requests(const std::vector<RequestTuple>& tuples) {
+    std::vector<TKorPrefixRequest> requests;
+    for (const auto& [high, low, bits] : tuples) requests.push_back({{high, low}, bits});
+    return requests;
+}
+std::vector<RequestTuple> Tuples(const std::vector<TKorPrefixRequest>& requests) {
+    std::vector<RequestTuple> tuples;
+    for (const auto& r : requests) tuples.emplace_back(r.Prefix.High, r.Prefix.Low, r.Bits);
+    return tuples;
+}
+
+py::bytes Summarize(py::handle values) {
+    const FloatArray array = ToFloatVector(values, "values");
+    std::string bytes;
+    {
+        py::gil_scoped_release release;
+        TKorShardSummary summary;
+        summary.Add(Span(array));
+        bytes = summary.Serialize();
+    }
+    return py::bytes(bytes);
+}
+
+TKorShardSummary Merged(const std::vector<std::string>& parts) {
+    TKorShardSummary merged;
+    for (const std::string& part : parts) merged.Merge(TKorShardSummary::Deserialize(part));
+    return merged;
+}
+
+// The report's entries from the merged pieces, rendered as kornum describe renders them.
+class ShardedSummary {
+public:
+    ShardedSummary(const std::string& summary, bool population, const FloatArray& rankValues, bool modeExists,
+                   Real mode) {
+        const std::vector<Float> ranks(rankValues.data(), rankValues.data() + rankValues.size());
+        entries_ = ReportEntries(TKorShardSummary::Deserialize(summary), population, ranks, modeExists, mode);
+    }
+    py::list Entries() const { return EntryTuples(entries_); }
+    std::string Report(std::optional<int> decimals) const {
+        if (!decimals) return KornumFrontend::ShortestReportText(entries_);
+        if (*decimals < 0 || *decimals > 255) ArgumentError(PyExc_ValueError, "decimals", "must be from 0 to 255");
+        std::string text;
+        if (entries_.empty()) text = Kornum_RS_Math::rsVectorIsEmpty.Text() + '\n';
+        for (const auto& entry : entries_) {
+            text += entry.Caption;
+            if (entry.Value)
+                text += '\t' + (entry.Integral ? Kornumconvert::Int2EStr(Int64(*entry.Value))
+                                               : Kornumconvert::Float2EStr(*entry.Value, Kornumglobals::Byte(*decimals)));
+            text += '\n';
+        }
+        return text;
+    }
+
+private:
+    std::vector<KornumDescStats::TKorReportEntry> entries_;
+};
+
+}  // namespace
+
+void BindSharded(py::module_& m) {
+    m.def("shard_summary", &Summarize, py::arg("values"), "The exact summary of a shard, as bytes (internal).");
+    m.def("merge_summaries", [](const std::vector<std::string>& parts) { return py::bytes(Merged(parts).Serialize()); },
+          py::arg("parts"), "The merged summary of summaries, as bytes (internal).");
+    m.def("read_numbers", [](const std::string& path, int field, const std::string& delimiter, bool header,
+                             bool allowNonFinite) {
+              KornumCli::ReadOptions options{field, delimiter.empty() ? '\0' : delimiter[0], header, allowNonFinite};
+              Kornumglobals::TKorFloatVector values;
+              Kornumglobals::Integer count = 0;
+              try {
+                  py::gil_scoped_release release;
+                  KornumCli::ReadFileNumbers(path, options, values, count);
+              } catch (const KornumCli::InputError& error) {
+                  throw py::value_error(error.what());
+              }
+              py::array_t<Float> result(count);
+              for (Kornumglobals::Integer i = 0; i < count; ++i) result.mutable_data()[i] = values[i];
+              return result;
+          }, py::arg("path"), py::arg("field"), py::arg("delimiter"), py::arg("header"), py::arg("allow_nonfinite"),
+          "The numbers of a text file as kornum describe reads them; ValueError with its message (internal).");
+    m.def("number_text_fixed", [](Real x, int decimals) { return KornumFrontend::NumberText(x, decimals); },
+          py::arg("x"), py::arg("decimals"));
+    m.def("summary_count", [](const std::string& s) { return TKorShardSummary::Deserialize(s).Count(); }, py::arg("summary"));
+    m.def("report_ranks", &ReportRanks, py::arg("n"));
+    m.def("prefix_counts", [](py::handle values, const std::vector<RequestTuple>& requests) {
+              const FloatArray array = ToFloatVector(values, "values");
+              py::gil_scoped_release release;
+              return PrefixCounts(Span(array), Requests(requests));
+          }, py::arg("values"), py::arg("requests"));
+    m.def("merge_counts", [](const std::vector<std::vector<TKorHistogram>>& parts) {
+              std::vector<TKorHistogram> merged;
+              for (const auto& part : parts) MergeCounts(merged, part);
+              return merged;
+          }, py::arg("parts"));
+    m.def("collect_prefix", [](py::handle values, const std::vector<RequestTuple>& prefixes) {
+              const FloatArray array = ToFloatVector(values, "values");
+              py::list lists;
+              for (const auto& [high, low, bits] : prefixes)
+                  lists.append(FromFloats(CollectPrefix(Span(array), {high, low}, bits)));
+              return lists;
+          }, py::arg("values"), py::arg("prefixes"));
+    m.def("range_bounds", [](const TKorHistogram& top, const std::vector<std::pair<std::uint32_t, TKorHistogram>>& finer,
+                             int parts) {
+              std::vector<KeyTuple> bounds;
+              for (const TKorKey& k : RangeBounds(top, finer, parts)) bounds.emplace_back(k.High, k.Low);
+              return bounds;
+          }, py::arg("top_counts"), py::arg("finer"), py::arg("parts"));
+    m.def("split_by_range", [](py::handle values, const std::vector<KeyTuple>& bounds) {
+              const FloatArray array = ToFloatVector(values, "values");
+              std::vector<TKorKey> keys;
+              for (const auto& [high, low] : bounds) keys.push_back({high, low});
+              py::list parts;
+              for (const auto& part : SplitByRange(Span(array), keys)) parts.append(FromFloats(part));
+              return parts;
+          }, py::arg("values"), py::arg("bounds"));
+    m.def("run_summary", [](py::handle values) {
+              const FloatArray array = ToFloatVector(values, "values");
+              return py::bytes(TKorRunSummary::OfValues({array.data(), array.data() + array.size()}).Serialize());
+          }, py::arg("values"));
+    m.def("append_runs", [](const std::vector<std::string>& parts) {
+              std::string merged;
+              TKorRunSummary runs;
+              for (const std::string& part : parts) runs.Append(TKorRunSummary::Deserialize(part));
+              Float mode = 0;
+              const bool exists = runs.Mode(mode);
+              return py::make_tuple(exists, Scalar(mode));
+          }, py::arg("parts"), "Whether the ranges' runs in key order have a mode, and the mode (internal).");
+    py::class_<TKorRankSelection>(m, "RankSelection", "Exact selection of ranks over shards (internal).")
+        .def(py::init<Int64, std::vector<Int64>, Int64>(), py::arg("n"), py::arg("ranks"), py::arg("gather_limit"))
+        .def("done", &TKorRankSelection::Done)
+        .def("gathering", &TKorRankSelection::Gathering)
+        .def("requests", [](const TKorRankSelection& s) { return Tuples(s.Requests()); })
+        .def("narrow", &TKorRankSelection::Narrow, py::arg("counts"))
+        .def("gather_prefixes", [](const TKorRankSelection& s) { return Tuples(s.GatherPrefixes()); })
+        .def("gathered", [](TKorRankSelection& s, const std::vector<FloatArray>& lists) {
+                 std::vector<std::vector<Float>> values;
+                 for (const auto& a : lists) values.emplace_back(a.data(), a.data() + a.size());
+                 s.Gathered(std::move(values));
+             }, py::arg("values"))
+        .def("values", [](const TKorRankSelection& s) { return FromFloats(s.Values()); });
+    py::class_<ShardedSummary>(m, "ShardedSummary", "The report of merged shard summaries (internal).")
+        .def(py::init<const std::string&, bool, const FloatArray&, bool, Real>(), py::arg("summary"),
+             py::arg("population"), py::arg("rank_values"), py::arg("mode_exists"), py::arg("mode"))
+        .def("entries", &ShardedSummary::Entries)
+        .def("report", &ShardedSummary::Report, py::arg("decimals"));
+}
+
+}  // namespace KornumPython

@@ -1,0 +1,218 @@
+#include <kornum/KornumSharded.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace KornumSharded {
+
+namespace {
+
+__extension__ typedef unsigned __int128 u128;  // GCC's 128-bit integer
+
+u128 Wide(TKorKey k) { return u128(k.High) << 64 | k.Low; }
+TKorKey Narrowed(u128 w) { return {std::uint16_t(w >> 64), std::uint64_t(w)}; }
+
+// The top Bits bits of the key, the rest zero.
+TKorKey Truncated(TKorKey k, int bits) {
+    if (bits == 0) return {};
+    const u128 keep = ~u128(0) << (80 - bits);
+    return Narrowed(Wide(k) & keep);
+}
+
+// The 16 key bits after the top Bits.
+std::uint32_t NextBits(u128 key, int bits) { return std::uint32_t(key >> (64 - bits)) & 0xffff; }
+
+}  // namespace
+
+TKorKey KeyOf(Float X) noexcept {
+    unsigned char raw[16] = {};
+    std::memcpy(raw, &X, 10);
+    std::uint64_t low;
+    std::memcpy(&low, raw, 8);
+    const std::uint16_t high = std::uint16_t(raw[8] | raw[9] << 8);
+    const u128 bits = u128(high) << 64 | low;
+    const u128 mask = (u128(1) << 80) - 1;
+    // Negative values count down from the sign bit, positive ones up from it.
+    return Narrowed((high & 0x8000) ? ~bits & mask : bits | u128(1) << 79);
+}
+
+Float ValueOf(TKorKey K) noexcept {
+    const u128 key = Wide(K);
+    const u128 mask = (u128(1) << 80) - 1;
+    const u128 bits = (key >> 79) ? key & ~(u128(1) << 79) : ~key & mask;
+    unsigned char raw[16] = {};
+    const std::uint64_t low = std::uint64_t(bits);
+    const std::uint16_t high = std::uint16_t(bits >> 64);
+    std::memcpy(raw, &low, 8);
+    raw[8] = std::uint8_t(high);
+    raw[9] = std::uint8_t(high >> 8);
+    Float x = 0;
+    std::memcpy(&x, raw, 10);
+    return x;
+}
+
+std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values, const std::vector<TKorPrefixRequest>& Requests) {
+    std::vector<std::vector<std::uint64_t>> dense(Requests.size(), std::vector<std::uint64_t>(1 << 16));
+    std::vector<u128> prefixes;
+    for (const TKorPrefixRequest& r : Requests) prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
+    for (const Float x : Values) {
+        const u128 key = Wide(KeyOf(x));
+        for (std::size_t i = 0; i < Requests.size(); ++i) {
+            const int bits = Requests[i].Bits;
+            if (bits && (key >> (80 - bits)) != (prefixes[i] >> (80 - bits))) continue;
+            ++dense[i][NextBits(key, bits)];
+        }
+    }
+    std::vector<TKorHistogram> result(Requests.size());
+    for (std::size_t i = 0; i < Requests.size(); ++i)
+        for (std::uint32_t b = 0; b < dense[i].size(); ++b)
+            if (dense[i][b]) result[i].push_back({b, dense[i][b]});
+    return result;
+}
+
+void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogram>& From) {
+    if (Into.empty()) Into.resize(From.size());
+    for (std::size_t i = 0; i < From.size(); ++i) {
+        TKorHistogram merged;
+        std::merge(Into[i].begin(), Into[i].end(), From[i].begin(), From[i].end(), std::back_inserter(merged));
+        TKorHistogram summed;
+        for (const auto& [bucket, count] : merged) {
+            if (!summed.empty() && summed.back().first == bucket)
+                summed.back().second += count;
+            else
+                summed.push_back({bucket, count});
+        }
+        Into[i] = std::move(summed);
+    }
+}
+
+std::vector<Float> CollectPrefix(std::span<const Float> Values, TKorKey Prefix, int Bits) {
+    std::vector<Float> result;
+    const u128 prefix = Wide(Truncated(Prefix, Bits));
+    for (const Float x : Values) {
+        const u128 key = Wide(KeyOf(x));
+        if (Bits == 0 || (key >> (80 - Bits)) == (prefix >> (80 - Bits))) result.push_back(x);
+    }
+    return result;
+}
+
+std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
+                                 const std::vector<std::pair<std::uint32_t, TKorHistogram>>& Finer, int Parts) {
+    // The buckets in key order, each as its first key and its count.
+    std::vector<std::pair<TKorKey, std::uint64_t>> buckets;
+    for (const auto& [top, count] : TopCounts) {
+        const auto finer = std::find_if(Finer.begin(), Finer.end(), [&](const auto& f) { return f.first == top; });
+        if (finer == Finer.end()) {
+            buckets.push_back({{std::uint16_t(top), 0}, count});
+            continue;
+        }
+        for (const auto& [next, subcount] : finer->second)
+            buckets.push_back({{std::uint16_t(top), std::uint64_t(next) << 48}, subcount});
+    }
+    std::uint64_t total = 0;
+    for (const auto& bucket : buckets) total += bucket.second;
+    std::vector<TKorKey> bounds;
+    std::uint64_t seen = 0;
+    for (const auto& [key, count] : buckets) {
+        // A new range starts at a bucket once the ranges so far hold their share.
+        if (seen > 0 && int(bounds.size()) + 1 < Parts && u128(seen) * Parts >= u128(total) * (bounds.size() + 1))
+            bounds.push_back(key);
+        seen += count;
+    }
+    return bounds;
+}
+
+std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, const std::vector<TKorKey>& Bounds) {
+    std::vector<std::vector<Float>> parts(Bounds.size() + 1);
+    for (const Float x : Values) {
+        const TKorKey key = KeyOf(x);
+        parts[std::size_t(std::upper_bound(Bounds.begin(), Bounds.end(), key) - Bounds.begin())].push_back(x);
+    }
+    return parts;
+}
+
+// ---- Selection by key prefixes ---------------------------------------------------------
+
+TKorRankSelection::TKorRankSelection(Int64 N, std::vector<Int64> Ranks, Int64 GatherLimit)
+    : gatherLimit_(std::max<Int64>(GatherLimit, 1)) {
+    for (const Int64 rank : Ranks) open_.push_back({rank, {}, N});
+}
+
+bool TKorRankSelection::Done() const noexcept {
+    return std::all_of(open_.begin(), open_.end(), [](const Open& o) { return o.Found; });
+}
+
+bool TKorRankSelection::Gathering() const noexcept {
+    return !Done() && std::all_of(open_.begin(), open_.end(),
+                                  [&](const Open& o) { return o.Found || o.Count <= gatherLimit_; });
+}
+
+namespace {
+template <class Keep>
+std::vector<TKorPrefixRequest> Distinct(const auto& open, Keep keep) {
+    std::vector<TKorPrefixRequest> requests;
+    for (const auto& o : open) {
+        if (!keep(o)) continue;
+        const bool known = std::any_of(requests.begin(), requests.end(), [&](const TKorPrefixRequest& r) {
+            return r.Bits == o.At.Bits && r.Prefix == o.At.Prefix;
+        });
+        if (!known) requests.push_back(o.At);
+    }
+    return requests;
+}
+}  // namespace
+
+std::vector<TKorPrefixRequest> TKorRankSelection::Requests() const {
+    return Distinct(open_, [&](const Open& o) { return !o.Found && o.Count > gatherLimit_; });
+}
+
+void TKorRankSelection::Narrow(const std::vector<TKorHistogram>& Counts) {
+    const std::vector<TKorPrefixRequest> requests = Requests();
+    for (Open& o : open_) {
+        if (o.Found || o.Count <= gatherLimit_) continue;
+        const std::size_t i = std::size_t(std::find_if(requests.begin(), requests.end(), [&](const TKorPrefixRequest& r) {
+                                              return r.Bits == o.At.Bits && r.Prefix == o.At.Prefix;
+                                          }) - requests.begin());
+        Int64 below = 0;
+        for (const auto& [bucket, count] : Counts.at(i)) {
+            if (o.Rank < below + Int64(count)) {
+                o.Rank -= below;
+                o.Count = Int64(count);
+                const u128 key = Wide(o.At.Prefix) | u128(bucket) << (64 - o.At.Bits);
+                o.At = {Narrowed(key), o.At.Bits + 16};
+                break;
+            }
+            below += Int64(count);
+        }
+        if (o.At.Bits == 80) {  // every value under a full key is the same value
+            o.Found = true;
+            o.Value = ValueOf(o.At.Prefix);
+        }
+    }
+}
+
+std::vector<TKorPrefixRequest> TKorRankSelection::GatherPrefixes() const {
+    return Distinct(open_, [](const Open& o) { return !o.Found; });
+}
+
+void TKorRankSelection::Gathered(std::vector<std::vector<Float>> Values) {
+    const std::vector<TKorPrefixRequest> prefixes = GatherPrefixes();
+    for (auto& list : Values) std::sort(list.begin(), list.end(), [](Float a, Float b) { return KeyOf(a) < KeyOf(b); });
+    for (Open& o : open_) {
+        if (o.Found) continue;
+        const std::size_t i = std::size_t(std::find_if(prefixes.begin(), prefixes.end(), [&](const TKorPrefixRequest& r) {
+                                              return r.Bits == o.At.Bits && r.Prefix == o.At.Prefix;
+                                          }) - prefixes.begin());
+        o.Value = Values.at(i).at(std::size_t(o.Rank));
+        o.Found = true;
+    }
+}
+
+std::vector<Float> TKorRankSelection::Values() const {
+    std::vector<Float> values;
+    for (const Open& o : open_) values.push_back(o.Value);
+    return values;
+}
+
+}  // namespace KornumSharded

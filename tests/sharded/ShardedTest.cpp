@@ -1,0 +1,260 @@
+#include <kornum/KornumDescStats.h>
+#include <kornum/KornumSharded.h>
+#include <kornum/Platform.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <cmath>
+#include <random>
+
+using namespace KornumSharded;
+using Kornumglobals::Float;
+
+namespace {
+
+// Units in the last place between a and b.
+long double UlpsApart(Float a, Float b) {
+    if (a == b) return 0;
+    return std::fabs(a - b) / (std::nextafter(std::fabs(a), INFINITY) - std::fabs(a));
+}
+
+std::vector<std::vector<Float>> RandomShards(const std::vector<Float>& values, int shards, std::mt19937_64& rng) {
+    std::vector<std::vector<Float>> parts(static_cast<std::size_t>(shards));
+    for (const Float x : values) parts[rng() % parts.size()].push_back(x);
+    std::shuffle(parts.begin(), parts.end(), rng);
+    return parts;
+}
+
+// The whole report over shards, as a distributed run computes it.
+std::vector<KornumDescStats::TKorReportEntry> ShardedReport(const std::vector<std::vector<Float>>& shards,
+                                                            bool population, Int64 gatherLimit) {
+    TKorShardSummary summary;
+    for (const auto& shard : shards) {
+        TKorShardSummary part;
+        part.Add(shard);
+        summary = TKorShardSummary::Deserialize(summary.Serialize());
+        summary.Merge(part);
+    }
+    TKorRankSelection selection(summary.Count(), ReportRanks(summary.Count()), gatherLimit);
+    while (!selection.Done()) {
+        if (selection.Gathering()) {
+            std::vector<std::vector<Float>> gathered;
+            for (const TKorPrefixRequest& r : selection.GatherPrefixes()) {
+                gathered.emplace_back();
+                for (const auto& shard : shards) {
+                    const std::vector<Float> some = CollectPrefix(shard, r.Prefix, r.Bits);
+                    gathered.back().insert(gathered.back().end(), some.begin(), some.end());
+                }
+            }
+            selection.Gathered(gathered);
+        } else {
+            std::vector<TKorHistogram> counts;
+            for (const auto& shard : shards) MergeCounts(counts, PrefixCounts(shard, selection.Requests()));
+            selection.Narrow(counts);
+        }
+    }
+    std::vector<TKorHistogram> top;
+    for (const auto& shard : shards) MergeCounts(top, PrefixCounts(shard, {TKorPrefixRequest{}}));
+    std::vector<TKorPrefixRequest> heavy;  // the top buckets to split finer
+    for (const auto& [bucket, count] : top[0]) heavy.push_back({{std::uint16_t(bucket), 0}, 16});
+    std::vector<TKorHistogram> next;
+    for (const auto& shard : shards) MergeCounts(next, PrefixCounts(shard, heavy));
+    std::vector<std::pair<std::uint32_t, TKorHistogram>> finer;
+    for (std::size_t i = 0; i < heavy.size(); i += 2) finer.push_back({heavy[i].Prefix.High, next[i]});
+    const std::vector<TKorKey> bounds = RangeBounds(top[0], finer, 5);
+    std::vector<std::vector<Float>> ranges(bounds.size() + 1);
+    for (const auto& shard : shards) {
+        const auto split = SplitByRange(shard, bounds);
+        for (std::size_t i = 0; i < split.size(); ++i) ranges[i].insert(ranges[i].end(), split[i].begin(), split[i].end());
+    }
+    TKorRunSummary runs;
+    for (const auto& range : ranges) runs.Append(TKorRunSummary::Deserialize(TKorRunSummary::OfValues(range).Serialize()));
+    Float mode = 0;
+    const bool modeExists = runs.Mode(mode);
+    return ReportEntries(summary, population, selection.Values(), modeExists, mode);
+}
+
+std::vector<KornumDescStats::TKorReportEntry> SingleReport(const std::vector<Float>& values, bool population) {
+    KornumDescStats::TKorDescStats stats(nullptr);
+    Kornumglobals::TKorFloatVector v;
+    v.SetLength(Kornumglobals::Integer(values.size()));
+    for (std::size_t i = 0; i < values.size(); ++i) v[Kornumglobals::Integer(i)] = values[i];
+    stats.BeginUpdate();
+    stats.SetPopulation(population);
+    stats.SetValues(v);
+    stats.EndUpdate();
+    return stats.ReportEntries();
+}
+
+// The moments in binary128 by two passes: exact for values that are multiples of 1/8
+// below 2^10 in magnitude (their sums and deviations need fewer than 113 bits), so
+// rounding these once to Float gives the correctly rounded statistics.
+std::map<std::string, Float> QuadMoments(const std::vector<Float>& values, bool population) {
+    using Quad = __float128;
+    const Quad n = Quad(values.size());
+    Quad sum = 0, sumSq = 0, d2 = 0, d3 = 0, d4 = 0;
+    for (const Float x : values) sum += x, sumSq += Quad(x) * x;
+    const Quad mean = sum / n;
+    for (const Float x : values) {
+        const Quad d = x - mean;
+        d2 += d * d, d3 += d * d * d, d4 += d * d * d * d;
+    }
+    const Quad variance = population ? d2 / n : d2 / (n - 1);
+    Quad sd = std::sqrt((long double)variance);
+    if (sd > 0) {
+        sd = (sd + variance / sd) / 2;
+        sd = (sd + variance / sd) / 2;
+    }
+    std::map<std::string, Float> m = {{"sum", Float(sum)}, {"sum_of_squares", Float(sumSq)}, {"mean", Float(mean)},
+                                      {"variance", Float(variance)}, {"standard_deviation", Float(sd)}};
+    if (values.size() > 2)
+        m["skew"] = Float(population ? d3 / (sd * sd * n * sd) : n * d3 / (sd * sd * ((n - 1) * (n - 2)) * sd));
+    if (values.size() > 3)
+        m["kurtosis"] = Float(population ? d4 / (sd * sd * sd * sd * n) - 3
+                                         : n * (n + 1) * d4 / (sd * sd * sd * sd * ((n - 1) * (n - 2) * (n - 3))) -
+                                               3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3)));
+    return m;
+}
+
+// Order statistics and mode as the single-process report; the moments within one unit in
+// the last place of Reference (when given) and close to the single-process ones.
+void ExpectSameReport(const std::vector<KornumDescStats::TKorReportEntry>& single,
+                      const std::vector<KornumDescStats::TKorReportEntry>& sharded,
+                      const std::map<std::string, Float>& reference = {}) {
+    ASSERT_EQ(single.size(), sharded.size());
+    for (std::size_t i = 0; i < single.size(); ++i) {
+        SCOPED_TRACE(single[i].Key);
+        EXPECT_EQ(single[i].Key, sharded[i].Key);
+        EXPECT_EQ(single[i].Caption, sharded[i].Caption);
+        ASSERT_EQ(single[i].Value.has_value(), sharded[i].Value.has_value());
+        if (!single[i].Value) continue;
+        const Float mine = *sharded[i].Value, theirs = *single[i].Value;
+        static const std::set<std::string> moments = {"sum", "sum_of_squares", "mean", "variance",
+                                                      "standard_deviation", "skew", "kurtosis"};
+        if (!moments.count(single[i].Key)) {
+            EXPECT_EQ(theirs, mine);  // count, extremes, mode, median, quartiles
+            continue;
+        }
+        EXPECT_LE(std::fabs(theirs - mine), 1e-14L * (1 + std::fabs(theirs)));
+        if (reference.count(single[i].Key)) {
+            EXPECT_LE(UlpsApart(reference.at(single[i].Key), mine), 1);
+        }
+    }
+}
+
+}  // namespace
+
+TEST(ShardSummary, MergeOrderAndPartitioningGiveIdenticalBytes) {
+    std::mt19937_64 rng(21);
+    std::normal_distribution<double> normal(3, 1e3);
+    std::vector<Float> values;
+    for (int i = 0; i < 5000; ++i) values.push_back(Float(normal(rng)) * (i % 7 == 0 ? 1e-300L : 1.0L));
+    std::string reference;
+    for (int shards : {1, 2, 7, 64}) {
+        for (int trial = 0; trial < 3; ++trial) {
+            TKorShardSummary merged;
+            for (const auto& shard : RandomShards(values, shards, rng)) {
+                TKorShardSummary part;
+                part.Add(shard);
+                merged.Merge(part);
+            }
+            if (reference.empty()) reference = merged.Serialize();
+            EXPECT_EQ(merged.Serialize(), reference) << shards << " shards";
+        }
+    }
+}
+
+TEST(ShardSummary, SumsAreExactAcrossTheExponentRange) {
+    TKorShardSummary s;
+    const std::vector<Float> values = {1e4000L, 1, -1e4000L, 0x1p-16440L, -0.5L};
+    s.Add(values);
+    EXPECT_EQ(s.Moments(false).Sum, 0.5L + 0x1p-16440L);  // rounds once: 0.5 (the tiny part is far below)
+    TKorShardSummary squares;
+    const std::vector<Float> three_four = {3, 4, -5};
+    squares.Add(three_four);
+    const TKorMoments m = squares.Moments(true);
+    EXPECT_EQ(m.Sum, 2);
+    EXPECT_EQ(m.SumSq, 50);
+    // Mean 2/3; sum of squared deviations 50 - 4/3 = 146/3; population variance 146/9.
+    EXPECT_EQ(m.Variance, 146.0L / 9.0L);
+    EXPECT_EQ(s.Minimum(), -1e4000L);
+    EXPECT_EQ(s.Maximum(), 1e4000L);
+}
+
+TEST(ShardSummary, RejectsBuffersThatAreNotSummaries) {
+    TKorShardSummary s;
+    const std::vector<Float> values = {1, 2, 3};
+    s.Add(values);
+    const std::string good = s.Serialize();
+    EXPECT_EQ(TKorShardSummary::Deserialize(good), s);
+    const auto message = [](std::string bytes) {
+        try {
+            TKorShardSummary::Deserialize(bytes);
+        } catch (const Platform::Exception& e) {
+            return e.Message();
+        }
+        return std::string("accepted");
+    };
+    EXPECT_EQ(message("KNRS" + good.substr(4)), "Not a valid shard summary: it does not start with \"KNSS\"");
+    std::string later = good;
+    later[4] = 2;
+    EXPECT_EQ(message(later), "Not a valid shard summary: its format version is 2; this library reads version 1");
+    EXPECT_EQ(message(good.substr(0, good.size() - 3)),
+              "Not a valid shard summary: it ends early, at byte " + std::to_string(good.size() - 3));
+    EXPECT_EQ(message(good + "x"), "Not a valid shard summary: 1 bytes follow its end");
+    std::string counts = good;
+    counts[14] = 9;  // more NaN than values
+    EXPECT_EQ(message(counts), "Not a valid shard summary: its counts are inconsistent");
+    EXPECT_THROW(TKorRunSummary::Deserialize("KNRS"), Platform::Exception);
+}
+
+TEST(Keys, OrderOfKeysIsOrderOfValuesAndRoundTrips) {
+    std::mt19937_64 rng(5);
+    std::vector<Float> values = {-INFINITY, -1e4000L, -1, -0x1p-16445L, 0, 0x1p-16445L, 1, 1e4000L, INFINITY};
+    for (int i = 0; i < 200; ++i) values.push_back(std::ldexp(Float(std::int64_t(rng())), int(rng() % 2000) - 1000));
+    for (const Float a : values) {
+        EXPECT_EQ(ValueOf(KeyOf(a)), a);
+        for (const Float b : values) EXPECT_EQ(a < b, KeyOf(a) < KeyOf(b)) << double(a) << " " << double(b);
+    }
+}
+
+TEST(RunSummary, ModeFollowsTheRunsOfEqualNeighboursAcrossRanges) {
+    Float mode = 0;
+    // A tolerant run that spans two ranges: 1 and 1 + 2^-60 are the same value.
+    TKorRunSummary left = TKorRunSummary::OfValues({0.5L, 1});
+    left.Append(TKorRunSummary::OfValues({1 + 0x1p-60L, 2, 2 + 0x1p-55L}));
+    left.Append(TKorRunSummary::OfValues({}));
+    EXPECT_FALSE(left.Mode(mode));  // runs of two at 1 and at 2 tie
+    left.Append(TKorRunSummary::OfValues({2 + 0x1p-54L, 3}));
+    ASSERT_TRUE(left.Mode(mode));
+    EXPECT_EQ(mode, 2 + 0x1p-54L);  // the last value of the longest run
+    EXPECT_TRUE(TKorRunSummary::OfValues({7}).Mode(mode));
+    EXPECT_EQ(mode, 7);
+    EXPECT_FALSE(TKorRunSummary::OfValues({1, 2, 3}).Mode(mode));
+}
+
+TEST(ShardedReport, EqualsTheSingleProcessReport) {
+    std::mt19937_64 rng(8);
+    std::normal_distribution<double> normal(10, 2);
+    for (const int size : {1, 2, 3, 4, 5, 11, 2000}) {
+        std::vector<Float> values;
+        for (int i = 0; i < size; ++i) values.push_back(Float(std::round(normal(rng) * 8) / 8));  // with repeats
+        for (const bool population : {false, true}) {
+            SCOPED_TRACE(testing::Message() << size << " values, population " << population);
+            const auto single = SingleReport(values, population);
+            for (const int shards : {1, 3, 16}) {
+                const auto reference = QuadMoments(values, population);
+                ExpectSameReport(single, ShardedReport(RandomShards(values, shards, rng), population, 4), reference);
+                ExpectSameReport(single, ShardedReport(RandomShards(values, shards, rng), population, 1 << 16),
+                                 reference);
+            }
+        }
+    }
+    // Spread wide and narrow: the selection narrows through several key prefixes.
+    std::vector<Float> values;
+    for (int i = 0; i < 3000; ++i) values.push_back(Float(normal(rng)) * (1 + 0x1p-40L * (i % 3)));
+    ExpectSameReport(SingleReport(values, false), ShardedReport(RandomShards(values, 9, rng), false, 2));
+}
