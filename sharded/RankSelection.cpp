@@ -102,7 +102,9 @@ std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
     // The buckets in key order, each as its first key and its count.
     std::vector<std::pair<TKorKey, std::uint64_t>> buckets;
     for (const auto& [top, count] : TopCounts) {
-        const auto finer = std::find_if(Finer.begin(), Finer.end(), [&](const auto& f) { return f.first == top; });
+        // A plain copy for the lambda: clang 14 cannot capture a structured binding.
+        const auto bucket = top;
+        const auto finer = std::find_if(Finer.begin(), Finer.end(), [&](const auto& f) { return f.first == bucket; });
         if (finer == Finer.end()) {
             buckets.push_back({{std::uint16_t(top), 0}, count});
             continue;
