@@ -7,8 +7,11 @@
 #include "core/detail/ExtendedPrecision.hpp"
 #include "statistics/detail/MillsRatio.hpp"
 #include "statistics/detail/NegativeExponential.hpp"
+#include "statistics/detail/NormalTailTaylor.hpp"
 
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 namespace KornumStatistics {
 
@@ -81,10 +84,41 @@ constexpr Float F[8] = {1.0L,
                         2.04426310338993978564e-15L};
 
 // Horner's rule from the highest coefficient down.
-Float Polynomial(const Float (&coefficients)[8], Float x) {
-    Float value = coefficients[7];
+template <class T>
+T Polynomial(const T (&coefficients)[8], T x) {
+    T value = coefficients[7];
     for (int i = 6; i >= 0; --i) value = value * x + coefficients[i];
     return value;
+}
+
+// The coefficients in another precision.
+struct ShortCoefficients {
+    double values[8];
+    constexpr explicit ShortCoefficients(const Float (&c)[8])
+        : values{double(c[0]), double(c[1]), double(c[2]), double(c[3]),
+                 double(c[4]), double(c[5]), double(c[6]), double(c[7])} {}
+};
+constexpr ShortCoefficients ShortA(A), ShortB(B), ShortC(C), ShortD(D), ShortE(E), ShortF(F);
+
+// PPND16 in double precision, for P < 1/2 (the lower tail): about 1e-16 relative, the
+// starting point of the accurate quantiles' Newton step, and much cheaper than the same
+// in this format. The logarithm is taken in this format where P is below double's range.
+double LowerTailStart(Float P) {
+    const double Q = double(P) - 0.5;
+    if (std::fabs(Q) <= double(Split1)) {
+        const double R = double(Const1) - Q * Q;
+        return Q * Polynomial(ShortA.values, R) / Polynomial(ShortB.values, R);
+    }
+    double R = P < 0x1p-1000L ? double(std::sqrt(-std::log(P))) : std::sqrt(-std::log(double(P)));
+    double X;
+    if (R <= double(Split2)) {
+        R -= double(Const2);
+        X = Polynomial(ShortC.values, R) / Polynomial(ShortD.values, R);
+    } else {
+        R -= double(Split2);
+        X = Polynomial(ShortE.values, R) / Polynomial(ShortF.values, R);
+    }
+    return -X;
 }
 
 // The normal cumulative probability of (X - Mean) / StdDev, reflecting a negative
@@ -116,38 +150,64 @@ Float ExpOfNegativePair(TwoFloat y) {
 
 struct Tails {
     Float lower, upper;
+    Float density;  // phi at the point, for the quantiles' Newton steps
 };
 
 // P(N <= z) and P(N > z) for N standard normal at z = hi + lo, lo a correction far below
-// hi: the smaller tail as phi(hi) R(|hi|) with the first-order term of lo (the second is
-// below 2^-100 of the tail), the larger as 1 minus it.
-Tails StandardTails(Float hi, Float lo) {
-    if (std::isnan(hi)) return {hi, hi};
-    if (std::isinf(hi)) return hi > 0 ? Tails{1, 0} : Tails{0, 1};
+// hi: the smaller tail from its Taylor table near the centre, as phi(hi) R(|hi|) beyond,
+// with the first-order term of lo (the second is below 2^-100 of the tail), the larger as
+// 1 minus it.
+// Inlined into its callers: passing and returning this format through memory would
+// cost as much as the short path near the centre.
+[[gnu::always_inline]] inline Tails StandardTails(Float hi, Float lo) {
+    if (std::isnan(hi)) return {hi, hi, hi};
+    if (std::isinf(hi)) return hi > 0 ? Tails{1, 0, 0} : Tails{0, 1, 0};
+    if (std::fabs(hi) <= detail::NormalTailTaylorLimit) {
+        const detail::TailNearCentre near = detail::UpperTailNearCentre(std::fabs(hi));
+        if (hi >= 0) {
+            const Float upper = near.tail - near.density * lo;
+            return {1 - upper, upper, near.density};
+        }
+        const Float lower = near.tail + near.density * lo;
+        return {lower, 1 - lower, near.density};
+    }
     const Float density = NormalZ(hi);
     if (hi >= 0) {
         const Float upper = density * (detail::MillsRatio(hi) - lo);
-        return {1 - upper, upper};
+        return {1 - upper, upper, density};
     }
     const Float lower = density * (detail::MillsRatio(-hi) + lo);
-    return {lower, 1 - lower};
+    return {lower, 1 - lower, density};
+}
+
+// True when StdDev is a power of two, so that dividing by it is exact (short of
+// underflow, which the tails do not reach at a finite z).
+bool IsPowerOfTwo(Float StdDev) {
+    std::uint64_t significand;  // the explicit leading bit alone for a normal power of two
+    std::memcpy(&significand, &StdDev, sizeof significand);
+    return significand == 0x8000000000000000ull;
 }
 
 // (X - Mean) / StdDev in two Floats: rounded to one, its error would be magnified by z^2
-// in a far tail. The difference is exact; the low part is dropped where the pieces
-// overflow, and an infinite or NaN point is passed on as it is.
-Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev) {
-    const Float plain = (x.hi - Mean) / StdDev;
-    if (!std::isfinite(plain)) return StandardTails(plain, 0);
-    const TwoFloat z = (x - TwoFloat{Mean, 0}) / TwoFloat{StdDev, 0};
+// in a far tail. The difference is exact, and so is the quotient when StdDev is a power of
+// two (the standard normal among them); otherwise the quotient's remainder is formed
+// exactly and divided once more. An infinite or NaN point is passed on as it is.
+[[gnu::always_inline]] inline Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev) {
+    const TwoFloat d = Kornummath::special::TwoSum(x.hi, -Mean);
+    if (!std::isfinite(d.hi)) return StandardTails(d.hi / StdDev, 0);
+    const TwoFloat difference = Kornummath::special::FastTwoSum(d.hi, d.lo + x.lo);
+    if (StdDev == 1) return StandardTails(difference.hi, difference.lo);
+    if (IsPowerOfTwo(StdDev)) return StandardTails(difference.hi / StdDev, difference.lo / StdDev);
+    const TwoFloat z = difference / TwoFloat{StdDev, 0};
+    if (!std::isfinite(z.hi)) return StandardTails(z.hi, 0);
     return StandardTails(z.hi, std::isfinite(z.lo) ? z.lo : 0);
 }
 
 // The log-normal tails: the logarithm of X in two Floats, X <= 0 below the support.
 Tails LogNormalTails(Float Mean, Float StdDev, Float X) {
-    if (std::isnan(X)) return {X, X};
-    if (X <= 0) return {0, 1};
-    if (std::isinf(X)) return {1, 0};
+    if (std::isnan(X)) return {X, X, X};
+    if (X <= 0) return {0, 1, 0};
+    if (std::isinf(X)) return {1, 0, 0};
     return StandardisedTails(Kornummath::special::Log(X), Mean, StdDev);
 }
 
@@ -238,14 +298,14 @@ Float InvNormalGreater(Float P) { return InvNormalLess(1 - P); }
 
 namespace {
 
-// The z >= 0 with P(N > z) = t, for 0 < t <= 1/2: AS 241's value, then Newton steps on
-// the accurate tail until a step no longer changes z beyond rounding (one, except below
-// the tails AS 241 was made for).
+// The z >= 0 with P(N > z) = t, for 0 < t <= 1/2: AS 241's value in double precision,
+// then Newton steps on the accurate tail until a step no longer changes z beyond rounding
+// (one, except below the tails AS 241 was made for).
 Float UpperTailQuantile(Float t) {
-    Float z = -InvNormalLess(t);
+    Float z = -LowerTailStart(t);
     for (int step = 0; step < 8; ++step) {
-        const Float density = std::exp(-z * z / 2) / std::sqrt(TwoPi);
-        const Float change = (NormalUpper(z) - t) / density;
+        const Tails tails = StandardTails(z, 0);
+        const Float change = (tails.upper - t) / tails.density;
         z += change;
         if (std::fabs(change) <= 1e-12L * z) break;
     }

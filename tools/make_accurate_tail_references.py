@@ -212,6 +212,21 @@ def normal_rows():
             for kind, value in [("normal_dist_lower", mp.ncdf(z)), ("normal_dist_upper", mp.ncdf(-z))]:
                 if representable(value):
                     rows.append([kind, hexfloat(mean), hexfloat(sd), hexfloat(x)] + pair(value))
+    # Halfway between the nodes of the table near the centre, where its series runs
+    # furthest, and across the end of that table at 4.
+    zs = [mp.mpf(k) / 32 * s for k in range(1, 129, 2) for s in (1, -1)]
+    zs += [4 + d * mp.mpf(2) ** -60 for d in (-1, 1)] + [-4 + d * mp.mpf(2) ** -60 for d in (-1, 1)]
+    for z in zs:
+        rows.append(["normal_upper", hexfloat(z)] + pair(mp.ncdf(-z)))
+        rows.append(["normal_lower", hexfloat(z)] + pair(mp.ncdf(z)))
+    # A spread that is a power of two, which the standardisation divides by exactly.
+    mean, sd = exact("3.1"), exact("0.5")
+    for c in [-41.3, -4.01, -3.99, -0.77, 0.03, 2.5, 3.96, 4.04, 12.9]:
+        x = exact(mean + c * sd)
+        z = (x - mean) / sd
+        for kind, value in [("normal_dist_lower", mp.ncdf(z)), ("normal_dist_upper", mp.ncdf(-z))]:
+            if representable(value):
+                rows.append([kind, hexfloat(mean), hexfloat(sd), hexfloat(x)] + pair(value))
     for mean_text, sd_text in [("0.5", "0.25"), ("-3", "1.7")]:
         mean, sd = exact(mean_text), exact(sd_text)
         for c in [-35, -12.2, -3, -0.4, 0.9, 4.1, 15, 30]:

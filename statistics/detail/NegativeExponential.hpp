@@ -116,10 +116,12 @@ inline NegativeExponential ReduceNegativeExponential(Float y) {
     std::memcpy(&bits, &shifted, 8);
     const std::uint64_t kk = bits - 0xC000000000000000ull;
     const Float r = (y - k * StepHigh) - k * StepLow;
-    // e^-r - 1 = -r + r^2/2 - ... - r^7/7! + r^8/8!
+    // e^-r - 1 = -r + r^2/2 - ... - r^7/7! + r^8/8!, as s P(s) with s = -r and P in
+    // Estrin's form: three short chains side by side rather than one of seven steps.
     const Float s = -r;
-    const Float q = s * (1 + s * (1.0L / 2 + s * (1.0L / 6 + s * (1.0L / 24 + s * (1.0L / 120 + s * (1.0L / 720 +
-                    s * (1.0L / 5040 + s * (1.0L / 40320))))))));
+    const Float s2 = s * s;
+    const Float q = s * ((1 + s * (1.0L / 2)) + (1.0L / 6 + s * (1.0L / 24)) * s2 +
+                         ((1.0L / 120 + s * (1.0L / 720)) + (1.0L / 5040 + s * (1.0L / 40320)) * s2) * (s2 * s2));
     const TwoFloat& t = PowersOfTwo[kk & 63];
     // 2^(-j/64) (1 + q) = t.hi + (t.hi q + t.lo (1 + q))
     return {t.hi * q + t.lo * (1 + q), t.hi, int(kk >> 6)};
