@@ -261,6 +261,17 @@ void TKorCairoCanvas::DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2
     cairo_stroke(cr_);
 }
 
+void TKorCairoCanvas::Polyline(std::span<const Platform::TPointF> Points, Platform::TColor Color, double Width) {
+    if (Points.size() < 2) return;
+    UseColor(cr_, Resolve(Color));
+    cairo_set_line_width(cr_, Width);
+    cairo_set_line_join(cr_, CAIRO_LINE_JOIN_ROUND);
+    cairo_move_to(cr_, Points[0].X, Points[0].Y);
+    for (const Platform::TPointF& p : Points.subspan(1)) cairo_line_to(cr_, p.X, p.Y);
+    cairo_stroke(cr_);
+    cairo_set_line_join(cr_, CAIRO_LINE_JOIN_MITER);
+}
+
 void TKorCairoCanvas::SetClipRect(const Platform::TRect& Rect) {
     cairo_reset_clip(cr_);
     cairo_rectangle(cr_, Rect.Left, Rect.Top, std::max(0, Rect.Width()), std::max(0, Rect.Height()));
@@ -368,6 +379,21 @@ void TKorImageCanvas::DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2
     impl_->svgElements += "  <line x1=\"" + Number(X1 + 0.5) + "\" y1=\"" + Number(Y1 + 0.5) + "\" x2=\"" +
                           Number(X2 + 0.5) + "\" y2=\"" + Number(Y2 + 0.5) + "\"" +
                           impl_->Paint("stroke", Resolve(Color)) + "/>\n";
+}
+
+void TKorImageCanvas::Polyline(std::span<const Platform::TPointF> Points, Platform::TColor Color, double Width) {
+    if (impl_->format != TImageFormat::Svg) return TKorCairoCanvas::Polyline(Points, Color, Width);
+    if (Points.size() < 2) return;
+    std::string& out = impl_->svgElements;
+    out += "  <polyline points=\"";
+    for (std::size_t i = 0; i < Points.size(); ++i) {
+        if (i > 0) out += ' ';
+        out += Number(Points[i].X);
+        out += ',';
+        out += Number(Points[i].Y);
+    }
+    out += "\" fill=\"none\" stroke-width=\"" + Number(Width) + "\" stroke-linejoin=\"round\"" +
+           impl_->Paint("stroke", Resolve(Color)) + "/>\n";
 }
 
 void TKorImageCanvas::SetClipRect(const Platform::TRect& Rect) {
