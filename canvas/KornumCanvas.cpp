@@ -1,5 +1,7 @@
 #include "KornumCanvas.h"
 
+#include "canvas/detail/PngWriter.hpp"
+
 #include <kornum/PlatformExceptions.h>
 
 #include <cairo-pdf.h>
@@ -15,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <stdexcept>
 
 namespace KornumCanvas {
 namespace {
@@ -421,12 +424,13 @@ std::string TKorImageCanvas::Contents() {
                    b.Html() + "\"/>\n" + impl_->svgElements + "</svg>\n";
         }
         case TImageFormat::Png: {
-            std::string png;
             cairo_surface_flush(impl_->surface);
-            const cairo_status_t status = cairo_surface_write_to_png_stream(impl_->surface, AppendTo, &png);
-            if (status != CAIRO_STATUS_SUCCESS)
-                throw Platform::Exception(std::string("Cairo cannot write the PNG: ") + cairo_status_to_string(status));
-            return png;
+            try {
+                return detail::EncodePng(cairo_image_surface_get_data(impl_->surface), impl_->width, impl_->height,
+                                         cairo_image_surface_get_stride(impl_->surface));
+            } catch (const std::runtime_error& error) {
+                throw Platform::Exception(std::string("cannot write the PNG: ") + error.what());
+            }
         }
         case TImageFormat::Pdf: {
             cairo_surface_finish(impl_->surface);

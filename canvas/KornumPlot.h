@@ -71,7 +71,8 @@ Integer FreedmanDiaconisBins(Int64 N, Float IQR, Float Min, Float Max, Integer M
 
 /// Counts the finite values of Values into Bins bins (1 or more) from Min to Max, which
 /// must be finite with Min <= Max; values outside [Min, Max] and NaN or infinities are
-/// left out. When Min = Max the one bin is centred on the value, 10% of its magnitude
+/// left out. Values are placed in double precision: a bin edge moves by a few parts in
+/// 10^16 of the range at most. When Min = Max the one bin is centred on the value, 10% of its magnitude
 /// wide (1 wide at 0). Other arguments raise `Platform::Exception`.
 THistogram Histogram(const TKorFloatVector& Values, Float Min, Float Max, Integer Bins);
 
@@ -193,12 +194,19 @@ private:
 };
 
 /// A sample's histogram with the normal density of Mean and StdDev over it: the finite
-/// values counted in Bins bins from their least to their greatest (Bins 0: by
+/// values counted in Bins bins from Min to Max, the sample's extremes (when either is not
+/// finite, from the least to the greatest finite value, found here) (Bins 0: by
 /// `FreedmanDiaconisBins` with IQR, at most 200), the curve scaled by `NormalCounts`
 /// (left out when StdDev is not positive or either is not finite), and the title
 /// `n = N, ^m = MEAN, ^s = SD` with five significant digits. A sample without a finite
 /// value raises `Platform::Exception`.
-TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Mean, Float StdDev, Float IQR, Integer Bins = 0);
+TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Min, Float Max, Float Mean, Float StdDev, Float IQR,
+                         Integer Bins = 0);
+
+/// Loads the faces a plot draws with and renders their common characters once, so that
+/// a later `SavePlot` finds them in Cairo's caches. A program may call it on a thread of
+/// its own while it reads its data; it draws nothing anyone sees.
+void PrepareFonts() noexcept;
 
 /// Draws Plot on a white image of Width x Height pixels and writes it to Path as its
 /// extension asks (`.svg`, `.png` or `.pdf`, else `Platform::Exception`). Everything that

@@ -34,15 +34,23 @@ void NormalCounts(Float Count, Float BinWidth, Float Mean, Float StdDev, Float L
     for (std::size_t i = 0; i < Y.size(); ++i) Y[i] = scale * Float(ys[Integer(i)]);
 }
 
-TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Mean, Float StdDev, Float IQR, Integer Bins) {
-    Float least = std::numeric_limits<Float>::infinity(), greatest = -least;
-    Int64 finite = 0;
-    for (Float x : Values)
-        if (std::isfinite(x)) {
-            least = std::min(least, x);
-            greatest = std::max(greatest, x);
-            ++finite;
-        }
+TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Min, Float Max, Float Mean, Float StdDev, Float IQR,
+                         Integer Bins) {
+    Float least = Min, greatest = Max;
+    Int64 finite = Values.Length();
+    // Extremes that are not finite come from values that are not: the finite ones are
+    // counted and their range found.
+    if (!std::isfinite(Min) || !std::isfinite(Max)) {
+        least = std::numeric_limits<Float>::infinity();
+        greatest = -least;
+        finite = 0;
+        for (Float x : Values)
+            if (std::isfinite(x)) {
+                least = std::min(least, x);
+                greatest = std::max(greatest, x);
+                ++finite;
+            }
+    }
     if (finite == 0) throw Platform::Exception("a histogram needs at least one finite value");
     if (Bins == 0) Bins = FreedmanDiaconisBins(finite, IQR, least, greatest);
     const THistogram histogram = Histogram(Values, least, greatest, Bins);
@@ -61,6 +69,23 @@ TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Mean, Float StdDev
     }
     plot.SetTitle("n = " + std::to_string(Values.Length()) + ", ^m = " + Significant(Mean) + ", ^s = " + Significant(StdDev));
     return plot;
+}
+
+void PrepareFonts() noexcept {
+    // A face that fails here fails again, with its message, where the plot is drawn.
+    try {
+        KornumCanvas::TKorImageCanvas canvas(KornumCanvas::TImageFormat::Png, 64, 64, Platform::clWhite);
+    canvas.SetTextEncoding(Platform::TTextEncoding::Utf8);
+    for (const char* face : {"DejaVu Sans", "Symbol"})
+        for (std::int32_t size : {10, 14}) {
+            canvas.Font().Name = face;
+            canvas.Font().Size = size;
+            Platform::TRect rect{0, 0, 64, 64};
+            canvas.DrawText(std::string_view(face) == "Symbol" ? "ms" : "0123456789.,-+e =nvalueco", rect,
+                            Platform::TextFlags::NoPrefix);
+            }
+    } catch (...) {
+    }
 }
 
 void SavePlot(TKorPlot& Plot, const std::string& Path, std::int32_t Width, std::int32_t Height) {

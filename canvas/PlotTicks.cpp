@@ -76,9 +76,13 @@ TTicks NiceTicks(Float Lo, Float Hi, Integer MaxTicks, bool Extend) {
     }
     const Step step = RoundStep((Hi - Lo) / Float(MaxTicks - 1));
     // Ticks are whole multiples of the step, so that 0 is exactly 0 where it falls.
-    const Float first = std::ceil(Lo / step.value - 1e-9L), last = std::floor(Hi / step.value + 1e-9L);
+    // A bound within rounding of a multiple counts as that multiple; the slack grows with
+    // the multiple, since 1e-300 is 5e-10 steps of 2e-291 and no multiple at all.
+    const Float low = Lo / step.value, high = Hi / step.value;
+    const Float lowSlack = 1e-12L * std::max(Float(1), std::fabs(low)), highSlack = 1e-12L * std::max(Float(1), std::fabs(high));
+    const Float first = std::ceil(low - lowSlack), last = std::floor(high + highSlack);
     TTicks ticks;
-    const Float outerFirst = std::floor(Lo / step.value + 1e-9L), outerLast = std::ceil(Hi / step.value - 1e-9L);
+    const Float outerFirst = std::floor(low + lowSlack), outerLast = std::ceil(high - highSlack);
     ticks.Lo = outerFirst * step.value;
     ticks.Hi = outerLast * step.value;
     const bool fixed = FixedSuits(step.exponent, std::max(std::fabs(ticks.Lo), std::fabs(ticks.Hi)));

@@ -11,6 +11,7 @@
 #include <kornum/KornumPlot.h>
 
 #include <cmath>
+#include <thread>
 #include <utility>
 
 namespace KornumCli {
@@ -74,6 +75,15 @@ int Describe(const DescribeSettings& s, const std::vector<std::string>& operands
     if (files.empty()) files.push_back("-");
     Kornumglobals::TKorFloatVector values;
     Kornumglobals::Integer count = 0;
+    // The plot's fonts load on the other core while the numbers are read.
+    std::thread fonts;
+    if (!s.plot.empty()) fonts = std::thread(KornumPlot::PrepareFonts);
+    const struct Joined {
+        std::thread& thread;
+        ~Joined() {
+            if (thread.joinable()) thread.join();
+        }
+    } joined{fonts};
     try {
         for (const std::string& file : files) ReadFileNumbers(file, s.read, values, count);
     } catch (const InputError& error) {
@@ -107,7 +117,7 @@ int Describe(const DescribeSettings& s, const std::vector<std::string>& operands
     }
     if (s.plot.empty()) return 0;
     return WritePlot("describe", s.plot, [&] {
-        return KornumPlot::SampleHistogram(stats.Values(), stats.Mean(), stats.StdDev(), stats.IQR(), s.bins);
+        return KornumPlot::SampleHistogram(stats.Values(), stats.Minimum(), stats.Maximum(), stats.Mean(), stats.StdDev(), stats.IQR(), s.bins);
     });
 }
 

@@ -49,7 +49,7 @@ KornumPlot::TKorPlot DistributionPlot(const Family& family, const Values& p, Flo
     const Float first = std::max(Float(0), std::ceil(lo));
     Float last = std::floor(hi);
     if (family.parameters[0].kind == Kind::Trials) last = std::min(last, p[0]);
-    if (last > MaxCounts) throw Platform::Exception("a discrete plot reaches at most " + NumberText(MaxCounts) + " counts");
+    if (last > MaxCounts) throw Platform::Exception("a discrete plot reaches at most " + NumberText(MaxCounts, 0) + " counts");
     if (last < first) throw Platform::Exception("the plot's range holds no count from 0 up");
     CheckTable(family, 0, 1, p);
     plot.SetXRange(first - 0.5L, last + 0.5L);
