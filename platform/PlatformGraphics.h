@@ -43,7 +43,7 @@ struct TRect {
     friend bool operator==(const TRect&, const TRect&) = default;
 };
 
-/// A point in pixels with a fractional part, for lines that follow a curve: x grows to
+/// A point in pixels that need not be whole, for lines that follow a curve: x grows to
 /// the right, y downwards, and (0.5, 0.5) is the centre of the top-left pixel.
 struct TPointF {
     /// The horizontal coordinate in pixels.
