@@ -1,5 +1,7 @@
 #include "KornumCanvas.h"
 
+#include "canvas/detail/PngWriter.hpp"
+
 #include <kornum/PlatformExceptions.h>
 
 #include <cairo-pdf.h>
@@ -15,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <stdexcept>
 
 namespace KornumCanvas {
 namespace {
@@ -261,6 +264,17 @@ void TKorCairoCanvas::DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2
     cairo_stroke(cr_);
 }
 
+void TKorCairoCanvas::Polyline(std::span<const Platform::TPointF> Points, Platform::TColor Color, double Width) {
+    if (Points.size() < 2) return;
+    UseColor(cr_, Resolve(Color));
+    cairo_set_line_width(cr_, Width);
+    cairo_set_line_join(cr_, CAIRO_LINE_JOIN_ROUND);
+    cairo_move_to(cr_, Points[0].X, Points[0].Y);
+    for (const Platform::TPointF& p : Points.subspan(1)) cairo_line_to(cr_, p.X, p.Y);
+    cairo_stroke(cr_);
+    cairo_set_line_join(cr_, CAIRO_LINE_JOIN_MITER);
+}
+
 void TKorCairoCanvas::SetClipRect(const Platform::TRect& Rect) {
     cairo_reset_clip(cr_);
     cairo_rectangle(cr_, Rect.Left, Rect.Top, std::max(0, Rect.Width()), std::max(0, Rect.Height()));
@@ -370,6 +384,21 @@ void TKorImageCanvas::DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2
                           impl_->Paint("stroke", Resolve(Color)) + "/>\n";
 }
 
+void TKorImageCanvas::Polyline(std::span<const Platform::TPointF> Points, Platform::TColor Color, double Width) {
+    if (impl_->format != TImageFormat::Svg) return TKorCairoCanvas::Polyline(Points, Color, Width);
+    if (Points.size() < 2) return;
+    std::string& out = impl_->svgElements;
+    out += "  <polyline points=\"";
+    for (std::size_t i = 0; i < Points.size(); ++i) {
+        if (i > 0) out += ' ';
+        out += Number(Points[i].X);
+        out += ',';
+        out += Number(Points[i].Y);
+    }
+    out += "\" fill=\"none\" stroke-width=\"" + Number(Width) + "\" stroke-linejoin=\"round\"" +
+           impl_->Paint("stroke", Resolve(Color)) + "/>\n";
+}
+
 void TKorImageCanvas::SetClipRect(const Platform::TRect& Rect) {
     TKorCairoCanvas::SetClipRect(Rect);
     if (impl_->format != TImageFormat::Svg) return;
@@ -395,12 +424,13 @@ std::string TKorImageCanvas::Contents() {
                    b.Html() + "\"/>\n" + impl_->svgElements + "</svg>\n";
         }
         case TImageFormat::Png: {
-            std::string png;
             cairo_surface_flush(impl_->surface);
-            const cairo_status_t status = cairo_surface_write_to_png_stream(impl_->surface, AppendTo, &png);
-            if (status != CAIRO_STATUS_SUCCESS)
-                throw Platform::Exception(std::string("Cairo cannot write the PNG: ") + cairo_status_to_string(status));
-            return png;
+            try {
+                return detail::EncodePng(cairo_image_surface_get_data(impl_->surface), impl_->width, impl_->height,
+                                         cairo_image_surface_get_stride(impl_->surface));
+            } catch (const std::runtime_error& error) {
+                throw Platform::Exception(std::string("cannot write the PNG: ") + error.what());
+            }
         }
         case TImageFormat::Pdf: {
             cairo_surface_finish(impl_->surface);

@@ -118,6 +118,8 @@ public:
     void FrameRect(const Platform::TRect& Rect, Platform::TColor Color) override;
     /// A one-pixel line through the pixels from (X1, Y1) to (X2, Y2) in Color.
     void DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2, std::int32_t Y2, Platform::TColor Color) override;
+    /// Connected segments through Points, Width pixels wide in Color, with round joins.
+    void Polyline(std::span<const Platform::TPointF> Points, Platform::TColor Color, double Width = 1) override;
     /// Limits later draws to Rect.
     void SetClipRect(const Platform::TRect& Rect) override;
     /// Removes the clip rectangle.
@@ -159,7 +161,7 @@ private:
 /// has one pixel per unit, while a PDF page is 0.75 points per pixel (72 points per inch
 /// over 96 pixels) and an SVG gives its font sizes in points, so that in both a font of 10
 /// points is 10 points on the page. Underline and strike-out are drawn in PNG and PDF
-/// only. An SVG keeps rectangles and lines as `<rect>` and `<line>` elements and a clip
+/// only. An SVG keeps rectangles, lines and polylines as `<rect>`, `<line>` and `<polyline>` elements and a clip
 /// rectangle as a `<clipPath>` that the later elements refer to.
 class TKorImageCanvas : public TKorCairoCanvas {
 public:
@@ -176,6 +178,8 @@ public:
     void FrameRect(const Platform::TRect& Rect, Platform::TColor Color) override;
     /// A one-pixel line through the pixels from (X1, Y1) to (X2, Y2) in Color.
     void DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2, std::int32_t Y2, Platform::TColor Color) override;
+    /// Connected segments through Points: in an SVG one `<polyline>` element.
+    void Polyline(std::span<const Platform::TPointF> Points, Platform::TColor Color, double Width = 1) override;
     /// Limits later draws to Rect.
     void SetClipRect(const Platform::TRect& Rect) override;
     /// Removes the clip rectangle.

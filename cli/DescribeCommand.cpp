@@ -4,11 +4,14 @@
 #include "Options.h"
 #include "Output.h"
 #include "Parameters.h"
+#include "PlotOutput.h"
 #include "frontend/ReportText.h"
 
 #include <kornum/KornumDescStats.h>
+#include <kornum/KornumPlot.h>
 
 #include <cmath>
+#include <thread>
 #include <utility>
 
 namespace KornumCli {
@@ -18,6 +21,8 @@ struct DescribeSettings {
     bool population = false, json = false;
     int decimals = -1;  // the shortest form that reads back the same
     ReadOptions read;
+    std::string plot;  // the histogram's image, if asked for
+    int bins = 0;      // 0: by the Freedman-Diaconis rule
 };
 
 CommandTable DescribeTable(DescribeSettings& s) {
@@ -47,10 +52,16 @@ CommandTable DescribeTable(DescribeSettings& s) {
              [&s](const std::string&) { s.read.header = true; }},
             {"--allow-nonfinite", "", "", "take nan, inf and -inf as values (default: bad input)",
              [&s](const std::string&) { s.read.allowNonFinite = true; }},
+            {"--plot", "", "FILE", "also draw a histogram with the normal density of the\nmean and standard deviation "
+             "to FILE.svg, .png or .pdf",
+             [&s](const std::string& v) { s.plot = ImagePath(v, "--plot"); }},
+            {"--bins", "", "N", "the histogram's bins, 1 to 10000 (default: by the\nFreedman-Diaconis rule, at most 200)",
+             [&s](const std::string& v) { s.bins = int(WholeNumber(v, "--bins", 1, 10000)); }},
         },
         "A token that is not a number, a record without the field, or no numbers at all\n"
         "stops the command with exit status 2 and a message naming the file, the line,\n"
-        "the field and the text; no report is printed then.\n"};
+        "the field and the text; no report is printed then. A histogram that cannot be\n"
+        "written gives exit status 1 after the report, and no partial file.\n"};
 }
 
 // A statistic in JSON: a number, or null where the report gives none or JSON has none.
@@ -64,6 +75,15 @@ int Describe(const DescribeSettings& s, const std::vector<std::string>& operands
     if (files.empty()) files.push_back("-");
     Kornumglobals::TKorFloatVector values;
     Kornumglobals::Integer count = 0;
+    // The plot's fonts load on the other core while the numbers are read.
+    std::thread fonts;
+    if (!s.plot.empty()) fonts = std::thread(KornumPlot::PrepareFonts);
+    const struct Joined {
+        std::thread& thread;
+        ~Joined() {
+            if (thread.joinable()) thread.join();
+        }
+    } joined{fonts};
     try {
         for (const std::string& file : files) ReadFileNumbers(file, s.read, values, count);
     } catch (const InputError& error) {
@@ -95,7 +115,10 @@ int Describe(const DescribeSettings& s, const std::vector<std::string>& operands
     } else {
         out.Write(KornumFrontend::ShortestReportText(stats.ReportEntries()));
     }
-    return 0;
+    if (s.plot.empty()) return 0;
+    return WritePlot("describe", s.plot, [&] {
+        return KornumPlot::SampleHistogram(stats.Values(), stats.Minimum(), stats.Maximum(), stats.Mean(), stats.StdDev(), stats.IQR(), s.bins);
+    });
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "Options.h"
 #include "Output.h"
 #include "Parameters.h"
+#include "PlotOutput.h"
 
 #include <kornum/KornumCanvas.h>
 #include <kornum/KornumMathLabel.h>
@@ -42,10 +43,7 @@ CommandTable LabelTable(KornumMathLabel::TKorMathLabel& label, LabelSettings& s)
         "pixels wide.\n",
         {
             {"--output", "-o", "FILE", "the image to write; its extension chooses SVG, PNG or PDF",
-             [&s](const std::string& v) {
-                 if (!KornumCanvas::FormatOfPath(v)) throw UsageError("-o takes a file ending in .svg, .png or .pdf: " + Quoted(v));
-                 s.output = v;
-             }},
+             [&s](const std::string& v) { s.output = ImagePath(v, "-o"); }},
             {"--size", "", "PT", "font size in points, 1 to 1000 (default 16)",
              [&label](const std::string& v) { label.Font().Size = std::int32_t(WholeNumber(v, "--size", 1, 1000)); }},
             {"--font", "", "FACE", "the face of the text (default DejaVu Sans)",
@@ -74,30 +72,6 @@ CommandTable LabelTable(KornumMathLabel::TKorMathLabel& label, LabelSettings& s)
         "(a smaller --size or --width, or SVG or PDF, makes a long caption fit).\n"};
 }
 
-// The label draws from its own origin; this canvas moves every draw by a margin into the
-// image beneath it.
-class ShiftedCanvas : public Platform::TCanvas {
-public:
-    ShiftedCanvas(KornumCanvas::TKorImageCanvas& target, int by) : target_(target), by_(by) {
-        SetTextEncoding(target.TextEncoding());
-    }
-    std::int32_t TextWidth(std::string_view text) override {
-        target_.Font().Assign(Font());
-        return target_.TextWidth(text);
-    }
-    std::int32_t DrawText(std::string_view text, Platform::TRect& rect, std::uint32_t flags) override {
-        target_.Font().Assign(Font());
-        Platform::TRect moved = rect.Offset(by_, by_);
-        const std::int32_t height = target_.DrawText(text, moved, flags);
-        rect = moved.Offset(-by_, -by_);
-        return height;
-    }
-
-private:
-    KornumCanvas::TKorImageCanvas& target_;
-    int by_;
-};
-
 int Draw(KornumMathLabel::TKorMathLabel& label, const LabelSettings& s, const std::vector<std::string>& operands) {
     if (operands.empty()) throw UsageError("a caption is needed");
     if (operands.size() > 1) throw UsageError("one caption only (quote it when it has blanks)");
@@ -123,7 +97,8 @@ int Draw(KornumMathLabel::TKorMathLabel& label, const LabelSettings& s, const st
         canvas = std::make_unique<KornumCanvas::TKorImageCanvas>(format, width, height, label.Color());
         canvas->SetTextEncoding(utf8);
         label.SetBounds(0, 0, width - margin, height - margin);
-        ShiftedCanvas shifted(*canvas, margin);
+        // The label draws from its own origin: moved by the margin into the image.
+        KornumPlot::TKorOffsetCanvas shifted(*canvas, margin, margin);
         label.Paint(shifted);
     } catch (const KornumCanvas::EMissingGlyph& error) {
         throw UsageError(std::string("the caption cannot be drawn: ") + error.what());

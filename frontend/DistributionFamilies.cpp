@@ -18,22 +18,21 @@ Cardinal Count(Float x) { return Cardinal(x); }
 Float Lo(const Values& p) { return p.size() > 2 ? p[2] : 0; }  // the beta's bounds, [0, 1] by default
 Float Hi(const Values& p) { return p.size() > 2 ? p[3] : 1; }
 
-// The density table's own checks, on a two-point table: the command streams the points.
-template <class Table>
-std::function<void(Float, Float, const Values&)> TableCheck(Table table) {
-    return [table](Float lo, Float hi, const Values& p) {
-        TKorFloatVector X, Y;
-        table(lo, hi, p, X, Y);
-    };
-}
+
 
 }  // namespace
+
+void CheckTable(const Family& family, Float lo, Float hi, const Values& p) {
+    if (family.checkTable) return family.checkTable(lo, hi, p);
+    TKorFloatVector X, Y;
+    family.table(lo, hi, 2, p, X, Y);
+}
 
 const std::map<std::string, Family>& Families() {
     using P = const Values&;
     using V = TKorFloatVector&;
-    const Parameter mean{"mean", Kind::Real}, sd{"standard deviation", Kind::Positive},
-        df{"degrees of freedom", Kind::Degrees};
+    const Parameter mean{"mean", Kind::Real, "^m"}, sd{"standard deviation", Kind::Positive, "^s"},
+        df{"degrees of freedom", Kind::Degrees, "^n"};
     static const std::map<std::string, Family> families{
         {"normal",
          {{mean, sd}, 0, false, [](Float x, P p) { return NormalDistLower(p[0], p[1], x); },
@@ -41,7 +40,7 @@ const std::map<std::string, Family>& Families() {
           [](Float x, P p) { return NormalPDF(x, p[0], p[1]); },
           [](Float q, P p) { return p[0] + p[1] * InvNormalLower(q); },
           [](Float q, P p) { return p[0] + p[1] * InvNormalUpper(q); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { NormalPDFValues(lo, hi, 2, p[0], p[1], X, Y); })}},
+          nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { NormalPDFValues(lo, hi, n, p[0], p[1], X, Y); }, "Normal"}},
         {"lognormal",
          {{mean, sd}, 0, false, [](Float x, P p) { return LogNormalLower(p[0], p[1], x); },
           [](Float x, P p) { return LogNormalUpper(p[0], p[1], x); },
@@ -50,59 +49,61 @@ const std::map<std::string, Family>& Families() {
           [](Float x, P p) { return x > 0 ? NormalPDF(std::log(x), p[0], p[1]) / x : LogNormalPDF(x, p[0], p[1]); },
           [](Float q, P p) { return std::exp(p[0] + p[1] * InvNormalLower(q)); },
           [](Float q, P p) { return std::exp(p[0] + p[1] * InvNormalUpper(q)); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { LogNormalPDFValues(lo, hi, 2, p[0], p[1], X, Y); })}},
+          nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { LogNormalPDFValues(lo, hi, n, p[0], p[1], X, Y); }, "Log-normal"}},
         {"chisq",
          {{df}, 0, false, [](Float x, P p) { return ChiSquareLess(x, Whole(p[0])); },
           [](Float x, P p) { return ChiSquareGreater(x, Whole(p[0])); },
           [](Float x, P p) { return ChiSquarePDF(x, Whole(p[0])); },
           [](Float q, P p) { return InvChiSquareLess(q, Whole(p[0])); },
           [](Float q, P p) { return InvChiSquareGreater(q, Whole(p[0])); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { ChiSquarePDFValues(lo, hi, 2, Whole(p[0]), X, Y); })}},
+          nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { ChiSquarePDFValues(lo, hi, n, Whole(p[0]), X, Y); }, "Chi-square"}},
         {"t",
          {{df}, 0, false, [](Float x, P p) { return StudentTLess(x, Whole(p[0])); },
           [](Float x, P p) { return StudentTGreater(x, Whole(p[0])); },
           [](Float x, P p) { return StudentTPDF(x, Whole(p[0])); },
           [](Float q, P p) { return InvStudentTLess(q, Whole(p[0])); },
           [](Float q, P p) { return InvStudentTGreater(q, Whole(p[0])); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { StudentTPDFValues(lo, hi, 2, Whole(p[0]), X, Y); })}},
+          nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { StudentTPDFValues(lo, hi, n, Whole(p[0]), X, Y); }, "Student t"}},
         {"f",
-         {{{"numerator degrees of freedom", Kind::Degrees}, {"denominator degrees of freedom", Kind::Degrees}},
+         {{{"numerator degrees of freedom", Kind::Degrees, "^n1"}, {"denominator degrees of freedom", Kind::Degrees, "^n2"}},
           0, false, [](Float x, P p) { return FDistLess(x, Whole(p[0]), Whole(p[1])); },
           [](Float x, P p) { return FDistGreater(x, Whole(p[0]), Whole(p[1])); },
           [](Float x, P p) { return FDistPDF(x, Whole(p[0]), Whole(p[1])); },
           [](Float q, P p) { return InvFDistLess(q, Whole(p[0]), Whole(p[1])); },
           [](Float q, P p) { return InvFDistGreater(q, Whole(p[0]), Whole(p[1])); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { FDistPDFValues(lo, hi, 2, Whole(p[0]), Whole(p[1]), X, Y); })}},
+          nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { FDistPDFValues(lo, hi, n, Whole(p[0]), Whole(p[1]), X, Y); }, "F"}},
         {"beta",
-         {{{"shape A", Kind::Positive}, {"shape B", Kind::Positive}, {"lower bound", Kind::Real},
-           {"upper bound", Kind::Real}},
+         {{{"shape A", Kind::Positive, "^a"}, {"shape B", Kind::Positive, "^b"}, {"lower bound", Kind::Real, "low"},
+           {"upper bound", Kind::Real, "high"}},
           2, false, [](Float x, P p) { return BetaDistLess(x, p[0], p[1], Lo(p), Hi(p)); },
           [](Float x, P p) { return BetaDistGreater(x, p[0], p[1], Lo(p), Hi(p)); },
           [](Float x, P p) { return BetaPDF(x, p[0], p[1], Lo(p), Hi(p)); },
           [](Float q, P p) { return InvBetaDistLess(q, p[0], p[1], Lo(p), Hi(p)); },
           [](Float q, P p) { return InvBetaDistGreater(q, p[0], p[1], Lo(p), Hi(p)); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { BetaPDFValues(lo, hi, 2, p[0], p[1], Lo(p), Hi(p), X, Y); })}},
+          nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { BetaPDFValues(lo, hi, n, p[0], p[1], Lo(p), Hi(p), X, Y); }, "Beta"}},
         {"exponential",
-         {{{"rate", Kind::Positive}}, 0, false, [](Float x, P p) { return ExponentialLess(x, p[0]); },
+         {{{"rate", Kind::Positive, "^l"}}, 0, false, [](Float x, P p) { return ExponentialLess(x, p[0]); },
           [](Float x, P p) { return ExponentialGreater(x, p[0]); }, [](Float x, P p) { return ExponentialPDF(x, p[0]); },
           [](Float q, P p) { return InvExponentialLess(q, p[0]); },
           [](Float q, P p) { return InvExponentialGreater(q, p[0]); },
-          TableCheck([](Float lo, Float hi, P p, V X, V Y) { ExponentialPDFValues(lo, hi, 2, p[0], X, Y); })}},
+          nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { ExponentialPDFValues(lo, hi, n, p[0], X, Y); }, "Exponential"}},
         {"binomial",
-         {{{"trials", Kind::Trials}, {"probability", Kind::Probability}}, 0, true,
+         {{{"trials", Kind::Trials, "n"}, {"probability", Kind::Probability, "p"}}, 0, true,
           [](Float k, P p) { return BinomialLower(p[1], Count(p[0]), Count(k)); },
           [](Float k, P p) { return BinomialUpper(p[1], Count(p[0]), Count(k)); },
           [](Float k, P p) { return BinomialPoint(p[1], Count(p[0]), Count(k)); },
           [](Float a, P p) { return Float(InvBinomialLess(p[1], Count(p[0]), a)); },
           [](Float a, P p) { return Float(InvBinomialGreater(p[1], Count(p[0]), a)); },
-          [](Float, Float, P p) { BinomialEq(p[1], Count(p[0]), 0); }}},
+          [](Float, Float, P p) { BinomialEq(p[1], Count(p[0]), 0); },
+          [](Float, Float, Integer, P p, V X, V Y) { BinomialPDFValues(Count(p[0]), p[1], X, Y); }, "Binomial"}},
         {"poisson",
-         {{{"mean", Kind::Positive}}, 0, true, [](Float k, P p) { return PoissonLower(p[0], Count(k)); },
+         {{{"mean", Kind::Positive, "^l"}}, 0, true, [](Float k, P p) { return PoissonLower(p[0], Count(k)); },
           [](Float k, P p) { return PoissonUpper(p[0], Count(k)); },
           [](Float k, P p) { return PoissonPoint(p[0], Count(k)); },
           [](Float a, P p) { return Float(InvPoissonLess(p[0], a)); },
           [](Float a, P p) { return Float(InvPoissonGreater(p[0], a)); },
-          [](Float, Float, P p) { PoissonEq(p[0], 0); }}},
+          [](Float, Float, P p) { PoissonEq(p[0], 0); },
+          [](Float, Float hi, Integer, P p, V X, V Y) { PoissonPDFValues(p[0], Count(hi), X, Y); }, "Poisson"}},
     };
     return families;
 }

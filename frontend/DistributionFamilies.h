@@ -14,24 +14,34 @@ namespace KornumFrontend {
 
 using Kornumglobals::Float;
 
-// What values a parameter takes, and the name a message gives it.
+// What values a parameter takes, the name a message gives it and the symbol a picture's
+// title gives it (a math label caption: "^m" is mu).
 enum class Kind { Real, Positive, Degrees, Trials, Probability };
 struct Parameter {
     const char* name;
     Kind kind;
+    const char* symbol;
 };
 
 using Values = std::vector<Float>;
 using Function = std::function<Float(Float, const Values&)>;
+// The family's density table over [lo, hi]: N points for a continuous family; the counts
+// 0 to the trials (binomial) or to hi (Poisson) for a discrete one.
+using Table = std::function<void(Float lo, Float hi, Kornumglobals::Integer n, const Values&,
+                                 Kornumglobals::TKorFloatVector& X, Kornumglobals::TKorFloatVector& Y)>;
 
 // One family: its parameters (the last `optional` of them may be left out together), its
-// functions of (value, parameters) and the check of its density table.
+// functions of (value, parameters), its density table with the cheap check of a table's
+// arguments (a discrete family's; a continuous one checks on a two-point table), and the
+// name a picture's title gives it.
 struct Family {
     std::vector<Parameter> parameters;
     std::size_t optional;
     bool discrete;
     Function less, greater, pdf, inv, isf;
     std::function<void(Float, Float, const Values&)> checkTable;
+    Table table;
+    const char* title;
 };
 
 // The families by the name the command line gives them: normal, lognormal, chisq, t, f,
@@ -40,5 +50,9 @@ struct Family {
 // P(X <= x), P(X > x) and the density (the probability of k), inv and isf the inverses
 // of less and greater.
 const std::map<std::string, Family>& Families();
+
+// Raises what the family's density table raises for [lo, hi] and the parameters, without
+// building it.
+void CheckTable(const Family& family, Float lo, Float hi, const Values& p);
 
 }  // namespace KornumFrontend

@@ -201,6 +201,7 @@ std::string TextToUtf8(std::string_view Text, std::string_view Face, TTextEncodi
 void TCanvas::FillRect(const TRect&, TColor) {}
 void TCanvas::FrameRect(const TRect&, TColor) {}
 void TCanvas::DrawLine(std::int32_t, std::int32_t, std::int32_t, std::int32_t, TColor) {}
+void TCanvas::Polyline(std::span<const TPointF>, TColor, double) {}
 void TCanvas::SetClipRect(const TRect&) {}
 void TCanvas::ResetClipRect() {}
 

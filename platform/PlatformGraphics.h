@@ -16,6 +16,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -40,6 +41,17 @@ struct TRect {
     TRect Offset(std::int32_t dx, std::int32_t dy) const noexcept { return {Left + dx, Top + dy, Right + dx, Bottom + dy}; }
     /// True when all four edges agree.
     friend bool operator==(const TRect&, const TRect&) = default;
+};
+
+/// A point in pixels that need not be whole, for lines that follow a curve: x grows to
+/// the right, y downwards, and (0.5, 0.5) is the centre of the top-left pixel.
+struct TPointF {
+    /// The horizontal coordinate in pixels.
+    double X = 0;
+    /// The vertical coordinate in pixels.
+    double Y = 0;
+    /// True when both coordinates agree.
+    friend bool operator==(const TPointF&, const TPointF&) = default;
 };
 
 /// The colours a canvas resolves itself, as the desktop it draws for shows them
@@ -224,7 +236,7 @@ public:
     virtual std::int32_t DrawText(std::string_view Text, TRect& Rect, std::uint32_t Flags) = 0;
 
     /// @name Shapes and clipping
-    /// What a grid draws besides text. Coordinates are pixels, as for `TRect`. A canvas
+    /// What grids and plots draw besides text. Coordinates are pixels, as for `TRect`. A canvas
     /// that only draws text may leave these as they are: they then draw nothing.
     /// @{
 
@@ -235,6 +247,9 @@ public:
     /// Draws a line one pixel wide in Color through the pixels from (X1, Y1) to (X2, Y2),
     /// both ends included.
     virtual void DrawLine(std::int32_t X1, std::int32_t Y1, std::int32_t X2, std::int32_t Y2, TColor Color);
+    /// Draws connected straight segments through Points, in order, Width pixels wide in
+    /// Color, with round joins; fewer than two points draw nothing.
+    virtual void Polyline(std::span<const TPointF> Points, TColor Color, double Width = 1);
     /// Limits every later draw to Rect, replacing any earlier clip rectangle.
     virtual void SetClipRect(const TRect& Rect);
     /// Removes the clip rectangle: later draws reach the whole surface.

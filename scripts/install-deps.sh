@@ -16,6 +16,7 @@ packages=(
   python3-venv                    # the Python package's test environment
   libgtk-4-dev                    # the optional GTK 4 host of the edit controls
   xvfb xdotool                    # kornum-edit's smoke test: a display and typed keys
+  chromium                        # renders the plots' SVG to compare with their PNG
 )
 # With --bench: also what the whole-program benchmark compares against.
 if [ "${1:-}" = "--bench" ]; then
