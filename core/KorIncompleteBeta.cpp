@@ -295,20 +295,13 @@ constexpr Float WholeShapeLimit = 40;
 // rounding mode, which floor would need.
 bool SmallWhole(Float v) { return v <= WholeShapeLimit && (v + 0x1p63L) - 0x1p63L == v; }
 
-// sqrt(y) in two Floats: the rounded root corrected by the exact residual y - s^2.
-TwoFloat SquareRoot(const TwoFloat& y) {
-    const Float s = std::sqrt(y.hi);
-    const TwoFloat square = special::TwoProduct(s, s);
-    return special::FastTwoSum(s, ((y.hi - square.hi) - square.lo + y.lo) / (2 * s));
-}
-
 // y^p for y in (0, 1) given in two Floats: for a small whole or half-whole p by squaring
 // in two Floats, times the square root for the half; otherwise through the logarithm in
 // two Floats (p ln y reaches thousands).
 Float Power(const TwoFloat& y, Float p) {
     const bool half = !SmallWhole(p);
     if (half && !SmallWhole(p + 0.5L)) return special::Exp(special::Log(y) * p);
-    TwoFloat power = half ? SquareRoot(y) : TwoFloat{1, 0};
+    TwoFloat power = half ? special::SquareRoot(y) : TwoFloat{1, 0};
     bool started = half;  // power holds a factor: no multiplication by 1
     TwoFloat square = y;
     for (Float n = half ? p - 0.5L : p; n != 0;) {  // the binary digits of n from the lowest
@@ -361,7 +354,7 @@ bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
     }
     if (a == 1) {
         if (SmallWhole(2 * b)) {  // r = sqrt(1 - x), 1 - r = x / (1 + r)
-            const TwoFloat r = SquareRoot(c);
+            const TwoFloat r = special::SquareRoot(c);
             lower = x.hi / (1 + r.hi) * FiniteSeries(r, 1, 2 * b);
             return true;
         }

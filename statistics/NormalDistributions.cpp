@@ -8,6 +8,7 @@
 #include "statistics/detail/MillsRatio.hpp"
 #include "statistics/detail/NegativeExponential.hpp"
 #include "statistics/detail/NormalTailTaylor.hpp"
+#include "statistics/detail/StandardNormalTail.hpp"
 
 #include <cmath>
 #include <cstdint>
@@ -226,6 +227,8 @@ Float NormalZ(Float X) {
     if (high.hi > 11400) return 0;  // below the smallest subnormal
     return ExpOfNegativePair({high.hi, high.lo + (square.lo / 2 + LnSqrtTwoPi.lo)});
 }
+
+Float detail::StandardUpperTail(Float hi, Float lo) { return StandardTails(hi, lo).upper; }
 
 Float NormalLower(Float Z) { return StandardTails(Z, 0).lower; }
 

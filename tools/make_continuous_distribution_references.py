@@ -69,7 +69,7 @@ for _ in range(150):  # incomplete gamma, A and X from 1e-3 to 1e4, often near e
     a = exact(mpf(10) ** r.uniform(-3, 4))
     x = exact(a * mpf(r.uniform(0.5, 1.5)) if r.random() < 0.4 else mpf(10) ** r.uniform(-3, 4))
     rows.append(("igamma", [a, x], mp.gammainc(a, 0, x, regularized=True)))
-for k in (1, 2, 3, 5, 10, 30, 100, 1000):
+for k in (1, 2, 3, 5, 10, 30, 41, 79, 80, 81, 100, 1000):
     for x in (0.01, 0.5, 1, k * 0.7, k, k * 1.5, k + 10 * k ** 0.5, 30 * k + 100, 1000 + 20 * k):
         x = exact(x)
         rows.append(("chisq_less", [x, k], chi_less(x, k)))

@@ -68,6 +68,13 @@ inline TwoFloat operator*(TwoFloat x, TwoFloat y) {
     return FastTwoSum(p.hi, p.lo + (x.hi * y.lo + x.lo * y.hi));
 }
 
+// sqrt(y) for y > 0 in two Floats: the rounded root corrected by the exact residual y - s^2.
+inline TwoFloat SquareRoot(const TwoFloat& y) {
+    const Float s = std::sqrt(y.hi);
+    const TwoFloat square = TwoProduct(s, s);
+    return FastTwoSum(s, ((y.hi - square.hi) - square.lo + y.lo) / (2 * s));
+}
+
 // ---- Constants (tools/make_log_table.py) -----------------------------------
 
 struct LogTableEntry {
