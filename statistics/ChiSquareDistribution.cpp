@@ -7,8 +7,7 @@
 
 #include "core/detail/ExtendedPrecision.hpp"
 #include "statistics/detail/DistributionSupport.hpp"
-#include "statistics/detail/NegativeExponential.hpp"
-#include "statistics/detail/StandardNormalTail.hpp"
+#include "statistics/detail/GammaClosedForms.hpp"
 
 #include <array>
 #include <cmath>
@@ -181,45 +180,6 @@ Float Regularised(Float a, Float x, bool upper, const TwoFloat& logGamma, Float 
     return series == upper ? 1 - tail : tail;
 }
 
-constexpr Float SmallestNormal = std::numeric_limits<Float>::min();
-
-// ---- Closed forms ----------------------------------------------------------------------
-
-// Degrees of freedom up to this take the closed forms below: at most 40 terms, each a
-// multiply-add, where the general method forms x^A e^-x / Gamma(A) through logarithms and
-// then sums a series or a continued fraction.
-constexpr Integer ClosedFormDegrees = 80;
-
-// 1 / j for j = 1 .. 80: the nested sums multiply rather than divide.
-constexpr std::array<Float, ClosedFormDegrees + 1> Reciprocals = [] {
-    std::array<Float, ClosedFormDegrees + 1> r{};
-    for (int j = 1; j <= ClosedFormDegrees; ++j) r[j] = 1.0L / j;
-    return r;
-}();
-
-// P(chi-square > x) for finite x > 0 and df <= ClosedFormDegrees, as sums of positive
-// terms only, each nested from its innermost term:
-// - even df: e^(-x/2) sum_{j < df/2} (x/2)^j / j!;
-// - odd df: 2 Q(sqrt x) + sqrt(2 / pi) e^(-x/2) sqrt x sum_{j < (df-1)/2} x^j / (2j + 1)!!,
-//   Q the standard normal upper tail, sqrt x in two Floats (Q magnifies the rounding of
-//   its argument by about x).
-// Within a few ulps; 0 where e^(-x/2) leaves the normal range, for the caller to refuse.
-Float ClosedUpperTail(Float x, Integer df) {
-    constexpr Float SqrtTwoOverPi = 0.797884560802865355879892119868763737L;
-    const Float half = x / 2;
-    const Float e = detail::ExpOfNegative(half);
-    if (e < SmallestNormal) return 0;  // a subnormal e^(-x/2) has lost digits
-    Float sum = 1;
-    if (df % 2 == 0) {
-        for (Integer j = df / 2 - 1; j >= 1; --j) sum = 1 + sum * half * Reciprocals[j];
-        return e * sum;
-    }
-    for (Integer j = (df - 1) / 2 - 1; j >= 1; --j) sum = 1 + sum * x * Reciprocals[2 * j + 1];
-    const TwoFloat root = special::SquareRoot({x, 0});
-    const Float series = df == 1 ? 0 : SqrtTwoOverPi * e * root.hi * sum;
-    return 2 * detail::StandardUpperTail(root.hi, root.lo) + series;
-}
-
 void RequireChiSquare(Float chiSq, Integer df) {
     if (chiSq < 0) Platform::Raise(Kornum_RS_Math::rsValueGEZero);
     if (df < 1) Platform::Raise(Kornum_RS_Math::rsDF);
@@ -374,8 +334,8 @@ Float ChiSquareLess(Float ChiSq, Integer DF) {
     RequireChiSquare(ChiSq, DF);
     if (DF <= ClosedFormDegrees && ChiSq > 0 && std::isfinite(ChiSq)) {
         // 1 minus the upper tail keeps the upper tail's few ulps while that is at most 1/2.
-        const Float upper = ClosedUpperTail(ChiSq, DF);
-        if (upper >= SmallestNormal && upper <= 0.5L) return 1 - upper;
+        const Float upper = ChiSquareUpperClosedForm(ChiSq, DF);
+        if (upper >= std::numeric_limits<Float>::min() && upper <= 0.5L) return 1 - upper;
     }
     return Regularised(Float(DF) / 2, ChiSq / 2, false, LogGammaOfHalf(DF), FullPrecision);
 }
@@ -383,8 +343,8 @@ Float ChiSquareLess(Float ChiSq, Integer DF) {
 Float ChiSquareGreater(Float ChiSq, Integer DF) {
     RequireChiSquare(ChiSq, DF);
     if (DF <= ClosedFormDegrees && ChiSq > 0 && std::isfinite(ChiSq)) {
-        const Float upper = ClosedUpperTail(ChiSq, DF);
-        if (upper >= SmallestNormal) return upper;
+        const Float upper = ChiSquareUpperClosedForm(ChiSq, DF);
+        if (upper >= std::numeric_limits<Float>::min()) return upper;
     }
     return Regularised(Float(DF) / 2, ChiSq / 2, true, LogGammaOfHalf(DF), FullPrecision);
 }
