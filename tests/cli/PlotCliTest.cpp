@@ -37,8 +37,12 @@ TEST_F(PlotCli, DescribeWritesTheReportAndAHistogramInEachFormat) {
         EXPECT_EQ(drawn.status, 0) << drawn.output;
         EXPECT_EQ(drawn.output, RunKornum("describe " + data).output);  // the report as before
         const std::string bytes = Contents(image);
-        if (std::string(extension) == ".png") EXPECT_EQ(bytes.substr(0, 8), "\x89PNG\r\n\x1a\n");
-        if (std::string(extension) == ".pdf") EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
+        if (std::string(extension) == ".png") {
+            EXPECT_EQ(bytes.substr(0, 8), "\x89PNG\r\n\x1a\n");
+        }
+        if (std::string(extension) == ".pdf") {
+            EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
+        }
     }
     // --bins 3 over [1, 10]: three bars in the SVG; mu and sigma drawn as text.
     const std::string svg = (directory / "three.svg").string();
