@@ -94,7 +94,8 @@ EMissingGlyph::EMissingGlyph(char32_t Character, const std::string& Face)
 EWriteError::EWriteError(const std::string& Path, int Error)
     : Platform::Exception("cannot write the image to '" + Path + "': " + std::strerror(Error)),
       path_(Path),
-      reason_(std::strerror(Error)) {}
+      reason_(std::strerror(Error)),
+      error_(Error) {}
 
 std::optional<TImageFormat> FormatOfPath(std::string_view Path) {
     const auto ends = [Path](std::string_view suffix) {

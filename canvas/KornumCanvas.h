@@ -71,9 +71,12 @@ public:
     const std::string& Path() const noexcept { return path_; }
     /// The system's reason: "No space left on device", "Permission denied", ...
     const std::string& Reason() const noexcept { return reason_; }
+    /// The system's error number (an `errno` value such as `ENOSPC`).
+    int Error() const noexcept { return error_; }
 
 private:
     std::string path_, reason_;
+    int error_;
 };
 
 /// The format a file name's extension asks for (`.svg`, `.png`, `.pdf`, lower case, after

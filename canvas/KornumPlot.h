@@ -8,6 +8,7 @@
 /// pixels are `double`s.
 #pragma once
 
+#include <kornum/KornumDescStats.h>
 #include <kornum/KornumExport.h>
 #include <kornum/Kornumglobals.h>
 #include <kornum/PlatformGraphics.h>
@@ -75,6 +76,12 @@ Integer FreedmanDiaconisBins(Int64 N, Float IQR, Float Min, Float Max, Integer M
 /// 10^16 of the range at most. When Min = Max the one bin is centred on the value, 10% of its magnitude
 /// wide (1 wide at 0). Other arguments raise `Platform::Exception`.
 THistogram Histogram(const TKorFloatVector& Values, Float Min, Float Max, Integer Bins);
+
+/// `Histogram` of values in ascending order without NaN (as
+/// `KornumDescStats::TKorDescStats::SortedValues` holds them), with the same counts: the
+/// end of each bin is found by a binary search, O(Bins log n) instead of a pass over the
+/// values. Raises what `Histogram` raises.
+THistogram SortedHistogram(const TKorFloatVector& Ascending, Float Min, Float Max, Integer Bins);
 
 /// The normal density of Mean and StdDev scaled to a histogram's counts: Count x BinWidth
 /// x the density, so that the curve's area equals the histogram's. X and Y receive Points
@@ -202,6 +209,12 @@ private:
 /// value raises `Platform::Exception`.
 TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Min, Float Max, Float Mean, Float StdDev, Float IQR,
                          Integer Bins = 0);
+
+/// The same picture of a descriptive-statistics component's values, from its statistics
+/// (`Population` chooses the standard deviation): when every value is finite the bins are
+/// counted from its ascending copy by `SortedHistogram`, without a pass over the values.
+/// An open update bracket is not closed: the statistics are those last computed.
+TKorPlot SampleHistogram(const KornumDescStats::TKorDescStats& Stats, Integer Bins = 0);
 
 /// Loads the faces a plot draws with and renders their common characters once, so that
 /// a later `SavePlot` finds them in Cairo's caches. A program may call it on a thread of

@@ -11,6 +11,17 @@
 #include <limits>
 
 namespace KornumPlot {
+
+void NormalCounts(Float Count, Float BinWidth, Float Mean, Float StdDev, Float Lo, Float Hi, Integer Points,
+                  std::vector<Float>& X, std::vector<Float>& Y) {
+    TKorFloatVector xs, ys;
+    KornumStatistics::NormalPDFValues(Lo, Hi, Points, Mean, StdDev, xs, ys);
+    X.assign(xs.begin(), xs.end());
+    Y.resize(X.size());
+    const Float scale = Count * BinWidth;
+    for (std::size_t i = 0; i < Y.size(); ++i) Y[i] = scale * Float(ys[Integer(i)]);
+}
+
 namespace {
 
 const Platform::TColor BarColor = Platform::TColor::RGB(160, 190, 225);
@@ -22,17 +33,26 @@ std::string Significant(Float x) {
     return text;
 }
 
-}  // namespace
-
-void NormalCounts(Float Count, Float BinWidth, Float Mean, Float StdDev, Float Lo, Float Hi, Integer Points,
-                  std::vector<Float>& X, std::vector<Float>& Y) {
-    TKorFloatVector xs, ys;
-    KornumStatistics::NormalPDFValues(Lo, Hi, Points, Mean, StdDev, xs, ys);
-    X.assign(xs.begin(), xs.end());
-    Y.resize(X.size());
-    const Float scale = Count * BinWidth;
-    for (std::size_t i = 0; i < Y.size(); ++i) Y[i] = scale * Float(ys[Integer(i)]);
+// The histogram's bars with the normal curve of Mean and StdDev over them, scaled to the
+// Finite values counted; the title gives N values.
+TKorPlot HistogramPlot(const THistogram& histogram, Int64 N, Int64 Finite, Float Mean, Float StdDev) {
+    const Float lo = histogram.Lo, hi = lo + histogram.Width * Float(histogram.Counts.size());
+    TKorPlot plot;
+    plot.SetXRange(lo, hi);
+    plot.SetXLabel("value");
+    plot.SetYLabel("count");
+    plot.AddBars(lo, histogram.Width, std::vector<Float>(histogram.Counts.begin(), histogram.Counts.end()), 1, BarColor,
+                 "counts, " + std::to_string(histogram.Counts.size()) + (histogram.Counts.size() == 1 ? " bin" : " bins"));
+    if (std::isfinite(Mean) && std::isfinite(StdDev) && StdDev > 0) {
+        std::vector<Float> x, y;
+        NormalCounts(Float(Finite), histogram.Width, Mean, StdDev, lo, hi, 400, x, y);
+        plot.AddLine(x, y, CurveColor, "normal density of the mean and sd");
+    }
+    plot.SetTitle("n = " + std::to_string(N) + ", ^m = " + Significant(Mean) + ", ^s = " + Significant(StdDev));
+    return plot;
 }
+
+}  // namespace
 
 TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Min, Float Max, Float Mean, Float StdDev, Float IQR,
                          Integer Bins) {
@@ -53,22 +73,19 @@ TKorPlot SampleHistogram(const TKorFloatVector& Values, Float Min, Float Max, Fl
     }
     if (finite == 0) throw Platform::Exception("a histogram needs at least one finite value");
     if (Bins == 0) Bins = FreedmanDiaconisBins(finite, IQR, least, greatest);
-    const THistogram histogram = Histogram(Values, least, greatest, Bins);
-    const Float lo = histogram.Lo, hi = lo + histogram.Width * Float(histogram.Counts.size());
+    return HistogramPlot(Histogram(Values, least, greatest, Bins), Values.Length(), finite, Mean, StdDev);
+}
 
-    TKorPlot plot;
-    plot.SetXRange(lo, hi);
-    plot.SetXLabel("value");
-    plot.SetYLabel("count");
-    plot.AddBars(lo, histogram.Width, std::vector<Float>(histogram.Counts.begin(), histogram.Counts.end()), 1, BarColor,
-                 "counts, " + std::to_string(histogram.Counts.size()) + (histogram.Counts.size() == 1 ? " bin" : " bins"));
-    if (std::isfinite(Mean) && std::isfinite(StdDev) && StdDev > 0) {
-        std::vector<Float> x, y;
-        NormalCounts(Float(finite), histogram.Width, Mean, StdDev, lo, hi, 400, x, y);
-        plot.AddLine(x, y, CurveColor, "normal density of the mean and sd");
-    }
-    plot.SetTitle("n = " + std::to_string(Values.Length()) + ", ^m = " + Significant(Mean) + ", ^s = " + Significant(StdDev));
-    return plot;
+TKorPlot SampleHistogram(const KornumDescStats::TKorDescStats& Stats, Integer Bins) {
+    const Int64 n = Stats.NoOfValues();
+    // A finite sum means no NaN and no infinity among the values, so the ascending copy is
+    // in order from end to end and the extremes are its ends.
+    if (n == 0 || !std::isfinite(Stats.Sum()))
+        return SampleHistogram(Stats.Values(), Stats.Minimum(), Stats.Maximum(), Stats.Mean(), Stats.StdDev(),
+                               Stats.IQR(), Bins);
+    if (Bins == 0) Bins = FreedmanDiaconisBins(n, Stats.IQR(), Stats.Minimum(), Stats.Maximum());
+    return HistogramPlot(SortedHistogram(Stats.SortedValues(), Stats.Minimum(), Stats.Maximum(), Bins), n, n,
+                         Stats.Mean(), Stats.StdDev());
 }
 
 void PrepareFonts() noexcept {

@@ -116,9 +116,7 @@ int Describe(const DescribeSettings& s, const std::vector<std::string>& operands
         out.Write(KornumFrontend::ShortestReportText(stats.ReportEntries()));
     }
     if (s.plot.empty()) return 0;
-    return WritePlot("describe", s.plot, [&] {
-        return KornumPlot::SampleHistogram(stats.Values(), stats.Minimum(), stats.Maximum(), stats.Mean(), stats.StdDev(), stats.IQR(), s.bins);
-    });
+    return WritePlot("describe", s.plot, [&] { return KornumPlot::SampleHistogram(stats, s.bins); });
 }
 
 }  // namespace

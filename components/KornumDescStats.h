@@ -155,6 +155,10 @@ public:
     // ---- Values at run time --------------------------------------------------------
     /// The values in entry order: a handle sharing the component's storage.
     TKorFloatVector Values() const noexcept { return values_; }
+    /// The values in ascending order, as the order statistics read them (the elements
+    /// `KornumVector::QSortVector` leaves): a handle sharing the component's sorted copy,
+    /// made with the statistics, to be read only; empty with no values.
+    TKorFloatVector SortedValues() const noexcept { return sorted_; }
 
     /// @name SetValues
     /// @{

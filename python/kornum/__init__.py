@@ -11,6 +11,7 @@ significant bits): arrays go in and come out as ``np.longdouble``, scalars as
   variates as the ``kornum random`` program for the same seed.
 - :mod:`kornum.stats`: sample, order and grouped-data statistics and the regression line.
 - :mod:`kornum.linalg`: determinant, inverse, rank, row echelon form and product.
+- :mod:`kornum.plot`: a sample's histogram and a distribution's curve as SVG, PNG or PDF.
 
 >>> import kornum
 >>> print(kornum.dist.Normal().sf(40))
@@ -19,6 +20,6 @@ significant bits): arrays go in and come out as ``np.longdouble``, scalars as
 
 from ._kornum import MathError, __version__
 from ._description import Description, describe
-from . import dist, linalg, random, stats
+from . import dist, linalg, plot, random, stats
 
-__all__ = ["Description", "MathError", "describe", "dist", "linalg", "random", "stats", "__version__"]
+__all__ = ["Description", "MathError", "describe", "dist", "linalg", "plot", "random", "stats", "__version__"]

@@ -48,6 +48,10 @@ class _Family:
     def _call(self, function: str, x: ArrayLike) -> Any:
         return _kornum.evaluate(self._family, function, x, list(self._parameters))
 
+    def _drawn_parameters(self) -> Tuple[np.ndarray, ...]:
+        """The parameters as ``kornum dist`` is given them for a picture's title."""
+        return self._parameters
+
     def cdf(self, x: ArrayLike) -> Any:
         """P(X <= x).
 
@@ -211,6 +215,11 @@ class Beta(_Continuous):
         super().__init__(a, b, lo, hi)
         if not np.all(self._parameters[2] < self._parameters[3]):
             raise ValueError("lo must be less than hi")
+
+    def _drawn_parameters(self) -> Tuple[np.ndarray, ...]:
+        # The bounds are named only where they are not the default [0, 1].
+        lo, hi = self._parameters[2:]
+        return self._parameters[:2] if np.all(lo == 0) and np.all(hi == 1) else self._parameters
 
 
 class Exponential(_Continuous):

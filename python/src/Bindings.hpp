@@ -11,5 +11,6 @@ void BindRandom(pybind11::module_& m);
 void BindStats(pybind11::module_& m);
 void BindLinalg(pybind11::module_& m);
 void BindSharded(pybind11::module_& m);
+void BindPlot(pybind11::module_& m);
 
 }  // namespace KornumPython

@@ -22,4 +22,5 @@ PYBIND11_MODULE(_kornum, m, pybind11::mod_gil_not_used()) {
     KornumPython::BindStats(m);
     KornumPython::BindLinalg(m);
     KornumPython::BindSharded(m);
+    KornumPython::BindPlot(m);
 }

@@ -4,9 +4,11 @@
 
 #include <kornum/KornumCanvas.h>
 
+#include <cairo.h>
 #include <sys/resource.h>
 
 #include <csignal>
+#include <cstring>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -164,6 +166,48 @@ TEST(ImageCanvas, SavesTheWholeImageOrNoFile) {
     EXPECT_FALSE(std::filesystem::exists(target));
     EXPECT_TRUE(std::filesystem::is_symlink(link));
     std::filesystem::remove_all(directory);
+}
+
+// A PNG read back by Cairo has every pixel drawn: 256 x 256 pixels of scattered colours,
+// whose compressed rows outgrow any one buffer of the encoder.
+TEST(ImageCanvas, APngReadsBackPixelForPixel) {
+    constexpr int Side = 256;
+    TKorImageCanvas canvas(TImageFormat::Png, Side, Side, Platform::clWhite);
+    const auto colour = [](int x, int y) {
+        const std::uint32_t h = (std::uint32_t(x) * 73856093u ^ std::uint32_t(y) * 19349663u) * 2654435761u;
+        return Platform::TColor::RGB(std::uint8_t(h >> 24), std::uint8_t(h >> 16), std::uint8_t(h >> 8));
+    };
+    for (int y = 0; y < Side; ++y)
+        for (int x = 0; x < Side; ++x) canvas.FillRect({x, y, x + 1, y + 1}, colour(x, y));
+    const std::string png = canvas.Contents();
+    ASSERT_GT(png.size(), std::size_t(65536));
+    struct Reader {
+        const std::string& bytes;
+        std::size_t at = 0;
+    } reader{png};
+    cairo_surface_t* image = cairo_image_surface_create_from_png_stream(
+        [](void* closure, unsigned char* data, unsigned int length) {
+            auto& r = *static_cast<Reader*>(closure);
+            if (r.bytes.size() - r.at < length) return CAIRO_STATUS_READ_ERROR;
+            std::memcpy(data, r.bytes.data() + r.at, length);
+            r.at += length;
+            return CAIRO_STATUS_SUCCESS;
+        },
+        &reader);
+    ASSERT_EQ(cairo_surface_status(image), CAIRO_STATUS_SUCCESS);
+    EXPECT_EQ(cairo_image_surface_get_format(image), CAIRO_FORMAT_RGB24);  // opaque: written as RGB
+    const unsigned char* data = cairo_image_surface_get_data(image);
+    const int stride = cairo_image_surface_get_stride(image);
+    int wrong = 0;
+    for (int y = 0; y < Side; ++y)
+        for (int x = 0; x < Side; ++x) {
+            std::uint32_t word;
+            std::memcpy(&word, data + y * stride + x * 4, 4);
+            const Platform::TColor c = colour(x, y);
+            wrong += (word & 0xFFFFFF) != (std::uint32_t(c.Red()) << 16 | std::uint32_t(c.Green()) << 8 | c.Blue());
+        }
+    EXPECT_EQ(wrong, 0);
+    cairo_surface_destroy(image);
 }
 
 }  // namespace

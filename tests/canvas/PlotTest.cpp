@@ -3,7 +3,9 @@
 #include "TestSupport.h"
 
 #include <kornum/KornumCanvas.h>
+#include <kornum/KornumDescStats.h>
 #include <kornum/KornumPlot.h>
+#include <kornum/KornumVector.h>
 #include <kornum/PlatformRandom.h>
 
 #include <cmath>
@@ -84,6 +86,35 @@ TEST(PlotHistogram, BinCountsSumToTheSampleOnRandomData) {
         for (Int64 c : h.Counts) sum += c;
         EXPECT_EQ(sum, values.Length()) << bins << " bins";
     }
+}
+
+TEST(PlotHistogram, ASortedSampleGivesTheCountsOfAPassOverIt) {
+    // Halves from 0 to 100 (edges of 10 bins fall on values: they go to the upper bin),
+    // each twice, and random values between them; sorted as the component sorts them.
+    Platform::RandSeed(7);
+    Kornumglobals::TKorFloatVector values;
+    for (int i = 0; i <= 200; ++i) {
+        for (Float x : {Float(i) / 2, Float(i) / 2, Float(i) / 2 + Platform::Random() / 2})
+            if (x <= 100) {
+                values.SetLength(values.Length() + 1);
+                values[values.High()] = x;
+            }
+    }
+    Kornumglobals::TKorFloatVector ascending = KornumVector::CopyVector(values);
+    KornumVector::QSortVector(ascending, true);
+    for (Integer bins : {1, 3, 7, 10, 200, 10000})
+        for (auto [lo, hi] : {std::pair<Float, Float>{0, 100}, {10, 50.25L}, {-5, 3}, {99.75L, 99.75L}}) {
+            const THistogram sorted = SortedHistogram(ascending, lo, hi, bins);
+            const THistogram pass = Histogram(values, lo, hi, bins);
+            EXPECT_EQ(sorted.Counts, pass.Counts) << bins << " bins over [" << double(lo) << ", " << double(hi) << "]";
+            EXPECT_EQ(sorted.Lo, pass.Lo);
+            EXPECT_EQ(sorted.Width, pass.Width);
+        }
+    // 0 to 9.5 (20 values, and 10 on the edge) | 10 to 19.5 | ... | 90 to 100, 21 values.
+    const THistogram ten = SortedHistogram(ascending, 0, 100, 10);
+    EXPECT_EQ(ten.Counts.front(), 60);
+    EXPECT_EQ(ten.Counts.back(), 62);
+    EXPECT_THROW(SortedHistogram(ascending, 0, 100, 0), Platform::Exception);
 }
 
 TEST(PlotHistogram, FreedmanDiaconisAndItsFallbacks) {
@@ -189,6 +220,33 @@ TEST(PlotChart, DataIsClippedToThePlotAreaAndTheCaptionGoesThroughTheMathLabel) 
         for (const auto& t : canvas.texts) found = found || t.second == label;
         EXPECT_TRUE(found) << label;
     }
+}
+
+TEST(PlotChart, AComponentsHistogramIsTheSamplesHistogram) {
+    // The component's plot reads its sorted copy when every value is finite, and the
+    // values themselves otherwise; either way the picture is the one drawn from the values.
+    const Float inf = std::numeric_limits<Float>::infinity();
+    Platform::RandSeed(11);
+    Kornumglobals::TKorFloatVector normal;
+    normal.SetLength(5000);
+    for (Integer i = 0; i < normal.Length(); ++i) normal[i] = std::round(Platform::Random() * Platform::Random() * 1000) / 8;
+    for (const Kornumglobals::TKorFloatVector& values :
+         {normal, Kornumglobals::TKorFloatVector{3, 3, 3}, Kornumglobals::TKorFloatVector{1, 2, inf, -inf, 2, 5}})
+        for (Integer bins : {0, 13}) {
+            KornumDescStats::TKorDescStats stats(nullptr);
+            stats.SetValues(values);
+            TKorPlot fromStats = SampleHistogram(stats, bins);
+            TKorPlot fromValues = SampleHistogram(values, stats.Minimum(), stats.Maximum(), stats.Mean(), stats.StdDev(),
+                                                  stats.IQR(), bins);
+            PlotCanvas a, b;
+            fromStats.Draw(a, {0, 0, 640, 400});
+            fromValues.Draw(b, {0, 0, 640, 400});
+            EXPECT_EQ(a.texts, b.texts);
+            ASSERT_EQ(a.fills.size(), b.fills.size());
+            for (std::size_t i = 0; i < a.fills.size(); ++i) EXPECT_EQ(a.fills[i].box, b.fills[i].box) << i;
+            ASSERT_EQ(a.polylines.size(), b.polylines.size());
+            for (std::size_t i = 0; i < a.polylines.size(); ++i) EXPECT_EQ(a.polylines[i].box, b.polylines[i].box) << i;
+        }
 }
 
 TEST(PlotChart, ALogarithmicAxisBreaksTheLineWhereItCannotGo) {
