@@ -128,7 +128,10 @@ Broadcast BroadcastOf(const std::vector<FloatArray>& inputs) {
             if (a.shape(d) == out || a.shape(d) == 1) continue;
             if (out != 1) {
                 std::string shapes;
-                for (const FloatArray& each : inputs) shapes += (shapes.empty() ? "" : " ") + ShapeText(each);
+                for (const FloatArray& each : inputs) {
+                    if (!shapes.empty()) shapes += ' ';
+                    shapes += ShapeText(each);
+                }
                 ArgumentError(PyExc_ValueError, "x and the parameters", "cannot be broadcast together: shapes " + shapes);
             }
             out = a.shape(d);
@@ -211,7 +214,7 @@ py::object Evaluate(const std::string& familyName, const std::string& functionNa
         }
     }
     if (b.shape.empty()) return Scalar(*result.data());
-    return std::move(result);
+    return result;
 }
 
 // The parameters as arrays of Floats, each checked against the values its family allows
