@@ -265,9 +265,12 @@ struct BetaValue {
 // tail always keeps its relative precision. Where the prefix underflows to 0 the tails are
 // 0 and 1 at once, unless whole asks for the continued fraction all the same (its share
 // and the prefix's logarithm then still give the logarithm of the tail).
-BetaValue EvaluateIncompleteBeta(const UnitPair& point, Float a, Float b, LazyBeta& beta, bool whole = false) {
+// A prefix the caller already knows (in the normal range) is taken as it is.
+BetaValue EvaluateIncompleteBeta(const UnitPair& point, Float a, Float b, LazyBeta& beta, bool whole = false,
+                                 Float knownPrefix = 0) {
     const Offset offset(point.x, a, b);
-    const Prefix prefix = BetaPrefix(point, a, b, offset, beta);
+    const Prefix prefix = knownPrefix >= SmallestNormal ? Prefix{knownPrefix, NaN}
+                                                        : BetaPrefix(point, a, b, offset, beta);
     const bool lower = point.x.hi * (a + b + 2) < a + 1;
     if (prefix.value == 0 && !whole)
         return lower ? BetaValue{0, 1, 0, prefix.log, 0, true} : BetaValue{1, 0, 0, prefix.log, 0, false};
@@ -339,13 +342,31 @@ Float ArcsineLaw(Float hi, Float lo) {
     return hi <= 0.5L ? twoOverPi * std::asin(std::sqrt(hi)) : 1 - twoOverPi * std::asin(std::sqrt((1 - hi) - lo));
 }
 
+// x^a (1 - x)^b / B(a, b) for a small whole a, given (1 - x)^b: 1 / B(a, b) is
+// (b)_a / (a - 1)!, a product of a factors, formed in two Floats, so that the prefix
+// carries only the few roundings of its last products. 0 (unknown) where x^a leaves the
+// normal range or b is so large that (b)_a could leave the range of Float.
+Float WholeShapePrefix(const TwoFloat& x, Float a, Float b, Float complementPower) {
+    if (!(b <= 0x1p+40L)) return 0;
+    const Float power = Power(x, a);
+    if (!(power >= SmallestNormal)) return 0;  // its lost bits would show in the product
+    TwoFloat rising{b, 0}, factorial{1, 0};
+    for (Float k = 1; k < a; k += 1) {
+        rising = rising * special::TwoSum(b, k);
+        factorial = factorial * k;
+    }
+    return power * (rising / factorial).hi * complementPower;
+}
+
 // I_x(a, b) where it needs neither B(a, b) nor the continued fraction; false elsewhere.
 // - b whole: x^a sum_{k < b} (a)_k / k! (1 - x)^k, positive terms only.
 // - a = 1: 1 - (1 - x)^b; for a whole 2b the geometric series (1 - r) sum_{j < 2b} r^j in
 //   r = sqrt(1 - x), positive terms again, else from the logarithm of 1 - x.
 // - a whole: 1 minus the mirrored series (1 - x)^b sum_{k < a} (b)_k / k! x^k, taken only
-//   while that is at most 3/4, so that the subtraction costs at most two bits.
-bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
+//   while that is at most 3/4, so that the subtraction costs at most two bits. Beyond, the
+//   continued fraction takes over, and `prefix` gets x^a (1 - x)^b / B(a, b) from the
+//   power already formed (WholeShapePrefix): it needs no gamma function either.
+bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower, Float& prefix) {
     const TwoFloat &x = point.x, &c = point.complement;
     if (SmallWhole(b)) {
         const Float power = Power(x, a);
@@ -368,7 +389,10 @@ bool ClosedForm(const UnitPair& point, Float a, Float b, Float& lower) {
         const Float power = Power(c, b);
         const Float upper = power * FiniteSeries(x, b, a);
         lower = 1 - upper;
-        return power >= SmallestNormal && upper <= 0.75L;
+        if (!(power >= SmallestNormal)) return false;
+        if (upper <= 0.75L) return true;
+        prefix = WholeShapePrefix(x, a, b, power);
+        return false;
     }
     return false;
 }
@@ -573,10 +597,10 @@ Float IncompleteBeta(const TwoFloat& x, Float a, Float b) {
     const Float hi = x.hi, lo = x.lo;
     if (a == 0.5L && b == 0.5L) return ArcsineLaw(hi, lo);
     const UnitPair point{{hi, lo}, TwoFloat{1, 0} - TwoFloat{hi, lo}};
-    Float closed;
-    if (ClosedForm(point, a, b, closed)) return closed < 1 ? closed : 1;  // rounding may pass 1
+    Float closed, prefix = 0;
+    if (ClosedForm(point, a, b, closed, prefix)) return closed < 1 ? closed : 1;  // rounding may pass 1
     LazyBeta beta(a, b);
-    return EvaluateIncompleteBeta(point, a, b, beta).lower;
+    return EvaluateIncompleteBeta(point, a, b, beta, false, prefix).lower;
 }
 
 Float BetaDensity(TwoFloat x, TwoFloat complement, Float a, Float b) {
