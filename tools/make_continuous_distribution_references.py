@@ -115,6 +115,12 @@ for n1, n2, x in ((1000, 3, 0.01), (1000, 3, 0.5), (3, 1000, 10), (3, 1000, 3), 
     x = exact(x)
     rows.append(("f_less", [x, n1, n2], f_less(x, n1, n2)))
     rows.append(("f_greater", [x, n1, n2], f_greater(x, n1, n2)))
+# An even second degree of freedom (a whole first beta shape) with the upper tail below
+# three quarters of the lower: the continued fraction with the prefix of whole shapes.
+for n1, n2 in ((5, 12), (1, 80), (3, 4), (7, 40), (11, 78)):
+    for x in (1.5, 2, 6, 40, 1e4):
+        x = exact(x)
+        rows.append(("f_greater", [x, n1, n2], f_greater(x, n1, n2)))
 def ibeta(a, b, x):
     """I_x(a, b), through its mirror where mpmath's series for x itself does not converge."""
     try:
