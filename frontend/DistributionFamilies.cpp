@@ -47,8 +47,8 @@ const std::map<std::string, Family>& Families() {
           // The normal density of ln x over x: the log-normal density's own check refuses
           // the positive x below its tolerance.
           [](Float x, P p) { return x > 0 ? NormalPDF(std::log(x), p[0], p[1]) / x : LogNormalPDF(x, p[0], p[1]); },
-          [](Float q, P p) { return std::exp(p[0] + p[1] * InvNormalLower(q)); },
-          [](Float q, P p) { return std::exp(p[0] + p[1] * InvNormalUpper(q)); },
+          [](Float q, P p) { return InvLogNormalLower(p[0], p[1], q); },
+          [](Float q, P p) { return InvLogNormalUpper(p[0], p[1], q); },
           nullptr, [](Float lo, Float hi, Integer n, P p, V X, V Y) { LogNormalPDFValues(lo, hi, n, p[0], p[1], X, Y); }, "Log-normal"}},
         {"chisq",
          {{df}, 0, false, [](Float x, P p) { return ChiSquareLess(x, Whole(p[0])); },

@@ -327,6 +327,18 @@ Float InvNormalUpper(Float Q) {
     return Q <= 0.5L ? UpperTailQuantile(Q) : -UpperTailQuantile(1 - Q);
 }
 
+// The exponential by the table of the exponential distribution: a third of the library
+// call's cost, which would be a third of the whole quantile's.
+Float InvLogNormalLower(Float Mean, Float StdDev, Float P) {
+    CheckForwardStdDev(StdDev);
+    return detail::ExpOf(Mean + StdDev * InvNormalLower(P));
+}
+
+Float InvLogNormalUpper(Float Mean, Float StdDev, Float Q) {
+    CheckForwardStdDev(StdDev);
+    return detail::ExpOf(Mean + StdDev * InvNormalUpper(Q));
+}
+
 Float NormalPDF(Float X, Float Mean, Float StdDev) {
     CheckForwardStdDev(StdDev);
     return GaussianKernel(X - Mean, StdDev) / (std::sqrt(TwoPi) * StdDev);

@@ -181,6 +181,13 @@ Float LogNormalUpper(Float Mean, Float StdDev, Float X);
 Float InvNormalLower(Float P);
 /// The z with P(N > z) = `Q`, from the upper tail itself.
 Float InvNormalUpper(Float Q);
+/// The x with P(X' <= x) = `P` for X' log-normal (ln X' normal with mean `Mean` and
+/// standard deviation `StdDev`): exp(Mean + StdDev InvNormalLower(P)). Failures
+/// (Platform::EMathError): Kornum_RS_Math::rsStdDev, Kornum_RS_Math::rsValue01.
+Float InvLogNormalLower(Float Mean, Float StdDev, Float P);
+/// The x with P(X' > x) = `Q` for X' log-normal: exp(Mean + StdDev InvNormalUpper(Q)).
+/// Failures as InvLogNormalLower.
+Float InvLogNormalUpper(Float Mean, Float StdDev, Float Q);
 /// @}
 
 }  // namespace KornumStatistics

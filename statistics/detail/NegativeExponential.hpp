@@ -1,4 +1,5 @@
-// e^-y and 1 - e^-y for y >= 0, table-driven, for the exponential distribution.
+// e^-y and 1 - e^-y for y >= 0, table-driven, for the exponential distribution, and e^y
+// for any y through the same reduction.
 // Internal to the library (not installed).
 #pragma once
 
@@ -8,13 +9,14 @@
 
 #include <cstdint>
 #include <cstring>
+#include <limits>
 
 namespace KornumStatistics::detail {
 
 using Kornumglobals::Float;
 using Kornummath::special::TwoFloat;
 
-// e^-y for y >= 0 as 2^(-k/64) e^-r, k the nearest multiple of 64 y / ln 2 and
+// e^-y for |y| <= 11400 as 2^(-k/64) e^-r, k the nearest multiple of 64 y / ln 2 and
 // |r| <= ln 2 / 128: the power from a table of 2^(-j/64) in two Floats, e^-r from its
 // Taylor series to r^8 (the next term is below 2^-85), the reduction by ln 2 / 64 in two
 // pieces whose first times k is exact. Within about an ulp, and without the library call
@@ -92,8 +94,8 @@ inline constexpr TwoFloat PowersOfTwo[64] = {
     {0x82CD8698AC2BA1D7P-64L, 0xF8A91D6D19482FFDP-130L},
     {0x8164D1F3BC030773P-64L, 0xF7CACA4F7A29BDE9P-129L}};
 
-// 2^-m for 0 <= m < 16382, built from its exponent bits (no library call).
-inline Float PowerOfTwoNegative(std::uint32_t m) {
+// 2^-m for -16383 <= m < 16382, built from its exponent bits (no library call).
+inline Float PowerOfTwoNegative(int m) {
     const std::uint64_t significand = 0x8000000000000000ull;
     const std::uint16_t exponent = std::uint16_t(16383 - m);
     unsigned char bytes[16] = {};
@@ -124,13 +126,15 @@ inline NegativeExponential ReduceNegativeExponential(Float y) {
                          ((1.0L / 120 + s * (1.0L / 720)) + (1.0L / 5040 + s * (1.0L / 40320)) * s2) * (s2 * s2));
     const TwoFloat& t = PowersOfTwo[kk & 63];
     // 2^(-j/64) (1 + q) = t.hi + (t.hi q + t.lo (1 + q))
-    return {t.hi * q + t.lo * (1 + q), t.hi, int(kk >> 6)};
+    // k and m are negative for a negative y: the shift keeps the sign.
+    return {t.hi * q + t.lo * (1 + q), t.hi, int(std::int64_t(kk) >> 6)};
 }
 
-// 2^-m x for m up to 16,500, in two steps where one power would not be normal.
+// 2^-m x for |m| up to 16,500, in two steps where one power would not be normal.
 inline Float ScaledDown(Float x, int m) {
-    if (m < 16000) return x * PowerOfTwoNegative(std::uint32_t(m));
-    return x * PowerOfTwoNegative(8000) * PowerOfTwoNegative(std::uint32_t(m - 8000));
+    if (m >= 16000) return x * PowerOfTwoNegative(8000) * PowerOfTwoNegative(m - 8000);
+    if (m <= -16000) return x * PowerOfTwoNegative(-8000) * PowerOfTwoNegative(m + 8000);
+    return x * PowerOfTwoNegative(m);
 }
 
 // e^-y for y >= 0 (0 beyond the smallest subnormal).
@@ -146,6 +150,15 @@ inline Float OneMinusExpOfNegative(Float y) {
     const NegativeExponential e = ReduceNegativeExponential(y);
     if (e.m == 0) return (1 - e.table) - e.power;  // 1 - table is exact: table is in [1/2, 1]
     return 1 - ScaledDown(e.table + e.power, e.m);
+}
+
+// e^y for any y, within about an ulp: e^-(-y), whose scale is then a power of two of
+// either sign. Infinity beyond the largest Float, 0 below the smallest.
+inline Float ExpOf(Float y) {
+    if (!(y <= 11357)) return y > 0 ? std::numeric_limits<Float>::infinity() : y;  // y NaN
+    if (y < -11400) return 0;
+    const NegativeExponential e = ReduceNegativeExponential(-y);
+    return ScaledDown(e.table + e.power, e.m);
 }
 
 }  // namespace KornumStatistics::detail
