@@ -21,6 +21,9 @@
 // whole number (an even number of degrees of freedom in the F family) or a = 1, and powers
 // by squaring for whole and half-whole exponents. They need neither B(a, b), whose gammas
 // are most of the cost of the general method at small shapes, nor the continued fraction.
+// Where a whole a's series would be subtracted from 1 with cancellation, the continued
+// fraction runs with the prefix formed from those powers and 1 / B(a, b) = (b)_a / (a - 1)!,
+// still without a gamma function.
 //
 // The inverse solves I_x(a, b) = t on the smaller tail t <= 1/2 and holds its unknown by
 // the distance from the nearer end of (0, 1), so that x and 1 - x both keep their digits.
