@@ -4,9 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
-#include <utility>
+#include <memory>
 
 namespace KornumDescStats::detail {
 namespace {
@@ -15,107 +16,63 @@ using Kornumglobals::Integer;
 using Kornumglobals::PackedFloat;
 using Kornumglobals::TKorFloatVector;
 
-// An 80-bit key whose unsigned order is the numeric order of a canonical, non-NaN
-// Float: positive values get the top bit set, negative values have all bits inverted.
-// A Float's order-preserving key, held in the 10 bytes of the element itself: the
-// significand in bytes 0 to 7 and sign and exponent in bytes 8 and 9, as the value
-// holds them, changed so that comparing the keys as unsigned 80-bit integers (byte 9
-// most significant) orders the values. Negative values have every bit flipped, the
-// others only the sign bit set.
+// A canonical, non-NaN Float as a 79-bit unsigned integer whose order is the numeric
+// order: the exponent (15 bits) above the fraction (63 bits; the integer bit is left
+// out, since for a canonical value it is 1 exactly when the exponent is not 0), with
+// the sign bit on top set for positive values and every bit inverted for negative ones.
+// +0 and -0 get different keys, next to each other. Held as two halves: `high` has
+// key bits 64 to 78, `low` bits 0 to 63. The encoding is one to one, so a value is
+// rebuilt from its key byte for byte.
 struct Key {
-    std::uint64_t low;   // significand
-    std::uint16_t high;  // sign and exponent
+    std::uint64_t low;
+    std::uint64_t high;
 };
 
-Key Load(const PackedFloat& x) {
-    Key key;
-    std::memcpy(&key.low, x.Bytes, 8);
-    std::memcpy(&key.high, x.Bytes + 8, 2);
-    return key;
-}
-void Store(PackedFloat& x, const Key& key) {
-    std::memcpy(x.Bytes, &key.low, 8);
-    std::memcpy(x.Bytes + 8, &key.high, 2);
+// The sort key of values that differ in more than 64 bits (those spanning many
+// binades or both signs).
+__extension__ typedef unsigned __int128 Wide;
+
+constexpr std::uint64_t FractionMask = ~std::uint64_t(0) >> 1;
+
+Key KeyOf(const PackedFloat& x) {
+    std::uint64_t significand;
+    std::uint16_t signAndExponent;
+    std::memcpy(&significand, x.Bytes, 8);
+    std::memcpy(&signAndExponent, x.Bytes + 8, 2);
+    const std::uint64_t exponent = signAndExponent & 0x7FFF;
+    const std::uint64_t low = (significand & FractionMask) | (exponent << 63);
+    const std::uint64_t high = exponent >> 1;
+    if (signAndExponent & 0x8000) return {~low, ~high & 0x3FFF};
+    return {low, high | 0x4000};
 }
 
-void ToKey(PackedFloat& x) {
-    Key key = Load(x);
-    if (key.high & 0x8000) {
+void StoreKey(PackedFloat& x, Key key) {
+    const bool positive = (key.high & 0x4000) != 0;
+    if (!positive) {
         key.low = ~key.low;
-        key.high = std::uint16_t(~key.high);
-    } else {
-        key.high |= 0x8000;
+        key.high = ~key.high;
     }
-    Store(x, key);
+    const std::uint64_t exponent = ((key.high & 0x3FFF) << 1) | (key.low >> 63);
+    const std::uint64_t significand = (key.low & FractionMask) | (std::uint64_t(exponent != 0) << 63);
+    const std::uint16_t signAndExponent = std::uint16_t(exponent | (positive ? 0 : 0x8000));
+    std::memcpy(x.Bytes, &significand, 8);
+    std::memcpy(x.Bytes + 8, &signAndExponent, 2);
 }
 
-void FromKey(PackedFloat& x) {
-    Key key = Load(x);
-    if (key.high & 0x8000) {
-        key.high &= 0x7FFF;
-    } else {
-        key.low = ~key.low;
-        key.high = std::uint16_t(~key.high);
-    }
-    Store(x, key);
-}
+// The bits in which the keys of V differ: the bits of the smallest and the largest key
+// above the highest of them are shared by all keys (every key lies between the two), so
+// only the bits from the highest differing one down take part in the sort. It is the
+// union over all keys less their intersection, found in one pass.
+struct KeySpread {
+    Key any{0, 0};                        // bits set in some key
+    Key all{~std::uint64_t(0), 0x7FFF};   // bits set in every key
+};
 
-bool KeyBefore(const PackedFloat& a, const PackedFloat& b) {
-    const Key x = Load(a), y = Load(b);
-    return x.high != y.high ? x.high < y.high : x.low < y.low;
-}
-
-// Byte `level` of a key counted from the most significant (level 0 is byte 9).
-unsigned DigitOf(const PackedFloat& x, int level) { return x.Bytes[9 - level]; }
-
-// In-place most-significant-digit radix sort of keys (American flag sort): the elements
-// are counted into 256 buckets by one byte, moved into their buckets by following
-// cycles, and each bucket is sorted on the next byte; small ones by insertion. It needs
-// no memory beyond a few counters a level.
-void FlagSort(PackedFloat* a, std::size_t n, int level) {
-    constexpr std::size_t Small = 32;
-    while (n > Small && level < 10) {
-        std::array<std::size_t, 256> count{};
-        for (std::size_t i = 0; i < n; ++i) ++count[DigitOf(a[i], level)];
-        if (std::find(count.begin(), count.end(), n) != count.end()) {
-            ++level;  // one byte shared by all: on to the next
-            continue;
-        }
-        std::array<std::size_t, 256> next, end;
-        std::size_t sum = 0;
-        for (std::size_t b = 0; b < 256; ++b) {
-            next[b] = sum;
-            sum += count[b];
-            end[b] = sum;
-        }
-        for (std::size_t b = 0; b < 256; ++b) {
-            while (next[b] < end[b]) {
-                PackedFloat x = a[next[b]];
-                unsigned d = DigitOf(x, level);
-                while (d != b) {
-                    std::swap(x, a[next[d]++]);
-                    d = DigitOf(x, level);
-                }
-                a[next[b]++] = x;
-            }
-        }
-        std::size_t start = 0;
-        for (std::size_t b = 0; b < 256; ++b) {
-            if (count[b] > 1) FlagSort(a + start, count[b], level + 1);
-            start += count[b];
-        }
-        return;
-    }
-    for (std::size_t i = 1; i < n; ++i) {
-        const PackedFloat x = a[i];
-        std::size_t j = i;
-        for (; j > 0 && KeyBefore(x, a[j - 1]); --j) a[j] = a[j - 1];
-        a[j] = x;
-    }
-}
-
-bool SortsUniquely(const TKorFloatVector& V) {
-    bool positiveZero = false, negativeZero = false;
+// One pass over V: whether the radix sort gives what QSortVector gives (no NaN, no
+// non-canonical encoding, not both zeros), and the spread of the keys.
+bool SortsUniquely(const TKorFloatVector& V, KeySpread& spread) {
+    bool unordered = false, positiveZero = false, negativeZero = false;
+    Key any = spread.any, all = spread.all;
     for (const PackedFloat& x : V) {
         std::uint64_t significand;
         std::uint16_t signAndExponent;
@@ -123,31 +80,122 @@ bool SortsUniquely(const TKorFloatVector& V) {
         std::memcpy(&signAndExponent, x.Bytes + 8, 2);
         const unsigned exponent = signAndExponent & 0x7FFF;
         const bool integerBit = (significand >> 63) != 0;
-        if (exponent == 0x7FFF && (significand << 1) != 0) return false;  // NaN
-        if ((exponent == 0) == integerBit) return false;                   // non-canonical
-        if (exponent == 0 && significand == 0) {
-            (signAndExponent & 0x8000 ? negativeZero : positiveZero) = true;
-        }
+        unordered |= exponent == 0x7FFF && (significand << 1) != 0;  // NaN
+        unordered |= (exponent == 0) == integerBit;                   // non-canonical
+        const bool zero = exponent == 0 && significand == 0;
+        positiveZero |= zero && !(signAndExponent & 0x8000);
+        negativeZero |= zero && (signAndExponent & 0x8000);
+        const Key key = KeyOf(x);
+        any.low |= key.low;
+        any.high |= key.high;
+        all.low &= key.low;
+        all.high &= key.high;
     }
-    return !(positiveZero && negativeZero);
+    spread = {any, all};
+    return !unordered && !(positiveZero && negativeZero);
 }
 
-// Least-significant-byte-first radix sort of the keys; a byte that every key shares
-// needs no pass.
+// The position of the highest set bit of x (not 0).
+int HighestBit(std::uint64_t x) { return 63 - std::countl_zero(x); }
+int HighestBit(Wide x) {
+    const std::uint64_t high = std::uint64_t(x >> 64);
+    return high != 0 ? 64 + HighestBit(high) : HighestBit(std::uint64_t(x));
+}
+
+template <class K>
+void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch);
+
+// One step of a most-significant-digit-first radix sort of unsigned integer keys, a
+// byte at a time, which moves the keys between the data and a scratch area of the same
+// size: the keys are counted by their digit at `shift` (one in which they differ) and
+// scattered into their buckets in the other area, and each bucket is then sorted the
+// same way on its own highest differing digit, the two areas changing roles. The sorted
+// keys end in `data` or, with `toScratch`, in `scratch`.
+template <class K>
+void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, bool toScratch) {
+    std::array<std::size_t, 256> count{};
+    for (std::size_t i = 0; i < n; ++i) ++count[unsigned(data[i] >> shift) & 0xFF];
+    std::array<std::size_t, 256> next;
+    std::size_t sum = 0;
+    for (std::size_t b = 0; b < 256; ++b) {
+        next[b] = sum;
+        sum += count[b];
+    }
+    for (std::size_t i = 0; i < n; ++i) scratch[next[unsigned(data[i] >> shift) & 0xFF]++] = data[i];
+    std::size_t start = 0;
+    for (std::size_t b = 0; b < 256; ++b) {
+        if (count[b] != 0) RadixSort(scratch + start, data + start, count[b], !toScratch);
+        start += count[b];
+    }
+}
+
+// Sorts the keys at `data` into `data` or, with `toScratch`, into `scratch`: small
+// groups by insertion, larger ones by ScatterByDigit on the highest digit in which they
+// differ, found with one pass over them (so that a run of equal keys costs one pass and
+// no digit is counted for nothing).
+template <class K>
+void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
+    constexpr std::size_t Small = 48;
+    if (n > Small) {
+        K any = 0, all = ~K(0);
+        for (std::size_t i = 0; i < n; ++i) {
+            any |= data[i];
+            all &= data[i];
+        }
+        if (any != all) return ScatterByDigit(data, scratch, n, HighestBit(any ^ all) & ~7, toScratch);
+    } else {
+        for (std::size_t i = 1; i < n; ++i) {
+            const K x = data[i];
+            std::size_t j = i;
+            for (; j > 0 && x < data[j - 1]; --j) data[j] = data[j - 1];
+            data[j] = x;
+        }
+    }
+    if (toScratch) std::copy(data, data + n, scratch);
+}
+
+// Sorts the keys of V as K, each the differing bits of its key (`width` of them, at
+// most the bits of K) shifted to the top of K, and writes the values they stand for
+// into `sorted`. The shared bits above come back from `spread`.
+template <class K>
+void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, PackedFloat* sorted) {
+    constexpr int Bits = int(sizeof(K) * 8);
+    const std::size_t n = std::size_t(V.Length());
+    const int up = Bits - width;
+    std::unique_ptr<K[]> keys(new K[n]), scratch(new K[n]);
+    for (std::size_t i = 0; i < n; ++i) {
+        const Key key = KeyOf(V[Integer(i)]);
+        keys[i] = K((Wide(key.high) << 64 | key.low) << up);
+    }
+    ScatterByDigit(keys.get(), scratch.get(), n, Bits - 8, false);  // the top bit differs
+    const Wide differing = width == 0 ? 0 : ~Wide(0) >> (128 - width);
+    const Wide shared = (Wide(spread.all.high) << 64 | spread.all.low) & ~differing;
+    for (std::size_t i = 0; i < n; ++i) {
+        const Wide key = shared | (Wide(keys[i]) >> up);
+        StoreKey(sorted[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
+    }
+}
+
 }  // namespace
 
 TKorFloatVector AscendingCopy(const TKorFloatVector& V) {
-    if (!SortsUniquely(V)) {
+    KeySpread spread;
+    if (!SortsUniquely(V, spread)) {
         TKorFloatVector sorted = KornumVector::CopyVector(V);
         KornumVector::QSortVector(sorted, true);
         return sorted;
     }
-    TKorFloatVector sorted = KornumVector::CopyVector(V);
-    PackedFloat* a = sorted.data();
-    const std::size_t n = std::size_t(sorted.Length());
-    for (std::size_t i = 0; i < n; ++i) ToKey(a[i]);
-    FlagSort(a, n, 0);
-    for (std::size_t i = 0; i < n; ++i) FromKey(a[i]);
+    // The number of key bits from the highest that differs between two keys down; none
+    // when all values are the same (or there are none).
+    const std::uint64_t high = spread.any.high ^ spread.all.high, low = spread.any.low ^ spread.all.low;
+    const int width = high != 0 ? 128 - std::countl_zero(high) : 64 - std::countl_zero(low);
+    if (width == 0) return KornumVector::CopyVector(V);
+    TKorFloatVector sorted;
+    sorted.SetLength(V.Length());
+    if (width <= 64)
+        SortKeys<std::uint64_t>(V, spread, width, sorted.data());
+    else
+        SortKeys<Wide>(V, spread, width, sorted.data());
     return sorted;
 }
 
