@@ -1,5 +1,6 @@
 #include "components/detail/AscendingCopy.hpp"
 
+#include <kornum/KorVector.h>
 #include <kornum/KornumVector.h>
 
 #include <algorithm>
@@ -7,7 +8,6 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
-#include <memory>
 
 namespace KornumDescStats::detail {
 namespace {
@@ -154,24 +154,64 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
     if (toScratch) std::copy(data, data + n, scratch);
 }
 
+// Uninitialised room for n keys, in the vectors' storage (huge pages for a large one).
+template <class K>
+class KeyBuffer {
+public:
+    explicit KeyBuffer(std::size_t n)
+        : bytes_(sizeof(K) * n), keys_(static_cast<K*>(Kornumglobals::AllocateVectorStorage(bytes_, alignof(K)))) {}
+    ~KeyBuffer() { Kornumglobals::FreeVectorStorage(keys_, bytes_, alignof(K)); }
+    KeyBuffer(const KeyBuffer&) = delete;
+    KeyBuffer& operator=(const KeyBuffer&) = delete;
+    K* get() const noexcept { return keys_; }
+
+private:
+    std::size_t bytes_;
+    K* keys_;
+};
+
 // Sorts the keys of V as K, each the differing bits of its key (`width` of them, at
 // most the bits of K) shifted to the top of K, and writes the values they stand for
-// into `sorted`. The shared bits above come back from `spread`.
+// into `sorted`. The shared bits above come back from `spread`. The keys are made
+// twice, to be counted by their top digit and to be scattered by it, so that the
+// unsorted keys are never stored; the buckets are then sorted with a scratch area as
+// large as the largest of them.
 template <class K>
 void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, PackedFloat* sorted) {
     constexpr int Bits = int(sizeof(K) * 8);
     const std::size_t n = std::size_t(V.Length());
     const int up = Bits - width;
-    std::unique_ptr<K[]> keys(new K[n]), scratch(new K[n]);
-    for (std::size_t i = 0; i < n; ++i) {
-        const Key key = KeyOf(V[Integer(i)]);
-        keys[i] = K((Wide(key.high) << 64 | key.low) << up);
+    const PackedFloat* values = V.data();
+    const auto keyOf = [up](const PackedFloat& x) {
+        const Key key = KeyOf(x);
+        return K((Wide(key.high) << 64 | key.low) << up);
+    };
+    std::array<std::size_t, 256> count{};
+    for (std::size_t i = 0; i < n; ++i) ++count[unsigned(keyOf(values[i]) >> (Bits - 8))];
+    std::array<std::size_t, 256> next;
+    std::size_t sum = 0, largest = 0;
+    for (std::size_t b = 0; b < 256; ++b) {
+        next[b] = sum;
+        sum += count[b];
+        largest = std::max(largest, count[b]);
     }
-    ScatterByDigit(keys.get(), scratch.get(), n, Bits - 8, false);  // the top bit differs
-    const Wide differing = width == 0 ? 0 : ~Wide(0) >> (128 - width);
+    const KeyBuffer<K> keys(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        const K key = keyOf(values[i]);
+        keys.get()[next[unsigned(key >> (Bits - 8))]++] = key;
+    }
+    {
+        const KeyBuffer<K> scratch(largest);
+        std::size_t start = 0;
+        for (std::size_t b = 0; b < 256; ++b) {
+            RadixSort(keys.get() + start, scratch.get(), count[b], false);
+            start += count[b];
+        }
+    }
+    const Wide differing = ~Wide(0) >> (128 - width);
     const Wide shared = (Wide(spread.all.high) << 64 | spread.all.low) & ~differing;
     for (std::size_t i = 0; i < n; ++i) {
-        const Wide key = shared | (Wide(keys[i]) >> up);
+        const Wide key = shared | (Wide(keys.get()[i]) >> up);
         StoreKey(sorted[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
     }
 }
