@@ -8,6 +8,8 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <utility>
+#include <vector>
 
 namespace KornumDescStats::detail {
 namespace {
@@ -109,7 +111,7 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch);
 // byte at a time, which moves the keys between the data and a scratch area of the same
 // size: the keys are counted by their digit at `shift` (one in which they differ) and
 // scattered into their buckets in the other area, and each bucket is then sorted the
-// same way on its own highest differing digit, the two areas changing roles. The sorted
+// same way on its own eight highest differing bits, the two areas changing roles. The sorted
 // keys end in `data` or, with `toScratch`, in `scratch`.
 template <class K>
 void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, bool toScratch) {
@@ -130,9 +132,9 @@ void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, bool toScratc
 }
 
 // Sorts the keys at `data` into `data` or, with `toScratch`, into `scratch`: small
-// groups by insertion, larger ones by ScatterByDigit on the highest digit in which they
-// differ, found with one pass over them (so that a run of equal keys costs one pass and
-// no digit is counted for nothing).
+// groups by insertion, larger ones by ScatterByDigit on the eight highest bits in which
+// they differ, found with one pass over them (so that a run of equal keys costs one pass
+// and no digit is counted for nothing).
 template <class K>
 void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
     constexpr std::size_t Small = 48;
@@ -142,7 +144,7 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
             any |= data[i];
             all &= data[i];
         }
-        if (any != all) return ScatterByDigit(data, scratch, n, HighestBit(any ^ all) & ~7, toScratch);
+        if (any != all) return ScatterByDigit(data, scratch, n, std::max(HighestBit(any ^ all) - 7, 0), toScratch);
     } else {
         for (std::size_t i = 1; i < n; ++i) {
             const K x = data[i];
@@ -173,7 +175,7 @@ private:
 // Sorts the keys of V as K, each the differing bits of its key (`width` of them, at
 // most the bits of K) shifted to the top of K, and writes the values they stand for
 // into `sorted`. The shared bits above come back from `spread`. The keys are made
-// twice, to be counted by their top digit and to be scattered by it, so that the
+// twice, to be counted by their first digit and to be scattered by it, so that the
 // unsorted keys are never stored; the buckets are then sorted with a scratch area as
 // large as the largest of them.
 template <class K>
@@ -186,26 +188,29 @@ void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, Pack
         const Key key = KeyOf(x);
         return K((Wide(key.high) << 64 | key.low) << up);
     };
-    std::array<std::size_t, 256> count{};
-    for (std::size_t i = 0; i < n; ++i) ++count[unsigned(keyOf(values[i]) >> (Bits - 8))];
-    std::array<std::size_t, 256> next;
+    // The first digit is wider, up to 12 bits for a million keys, so that the buckets
+    // are few thousand keys at most (in cache for their own sorts) unless the values
+    // crowd together.
+    const int first = std::clamp(int(std::bit_width(n)) - 8, 8, 12);
+    std::vector<std::size_t> next(std::size_t(1) << first);
+    for (std::size_t i = 0; i < n; ++i) ++next[std::size_t(keyOf(values[i]) >> (Bits - first))];
     std::size_t sum = 0, largest = 0;
-    for (std::size_t b = 0; b < 256; ++b) {
-        next[b] = sum;
-        sum += count[b];
-        largest = std::max(largest, count[b]);
+    for (std::size_t& bucket : next) {
+        largest = std::max(largest, bucket);
+        sum += std::exchange(bucket, sum);
     }
     const KeyBuffer<K> keys(n);
     for (std::size_t i = 0; i < n; ++i) {
         const K key = keyOf(values[i]);
-        keys.get()[next[unsigned(key >> (Bits - 8))]++] = key;
+        keys.get()[next[std::size_t(key >> (Bits - first))]++] = key;
     }
     {
+        // next[b] is now the end of bucket b.
         const KeyBuffer<K> scratch(largest);
         std::size_t start = 0;
-        for (std::size_t b = 0; b < 256; ++b) {
-            RadixSort(keys.get() + start, scratch.get(), count[b], false);
-            start += count[b];
+        for (const std::size_t end : next) {
+            RadixSort(keys.get() + start, scratch.get(), end - start, false);
+            start = end;
         }
     }
     const Wide differing = ~Wide(0) >> (128 - width);
