@@ -61,13 +61,12 @@ void StoreKey(PackedFloat& x, Key key) {
     std::memcpy(x.Bytes + 8, &signAndExponent, 2);
 }
 
-// The bits in which the keys of V differ: the bits of the smallest and the largest key
-// above the highest of them are shared by all keys (every key lies between the two), so
-// only the bits from the highest differing one down take part in the sort. It is the
-// union over all keys less their intersection, found in one pass.
+// The bits set in some key and those set in every key of V. A bit in the first and not
+// the second varies; the bits above the highest varying one are the same in every key,
+// so only the bits from that one down take part in the sort.
 struct KeySpread {
-    Key any{0, 0};                        // bits set in some key
-    Key all{~std::uint64_t(0), 0x7FFF};   // bits set in every key
+    Key any{0, 0};
+    Key all{~std::uint64_t(0), 0x7FFF};
 };
 
 // One pass over V: whether the radix sort gives what QSortVector gives (no NaN, no
@@ -107,12 +106,11 @@ int HighestBit(Wide x) {
 template <class K>
 void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch);
 
-// One step of a most-significant-digit-first radix sort of unsigned integer keys, a
-// byte at a time, which moves the keys between the data and a scratch area of the same
-// size: the keys are counted by their digit at `shift` (one in which they differ) and
-// scattered into their buckets in the other area, and each bucket is then sorted the
-// same way on its own eight highest differing bits, the two areas changing roles. The sorted
-// keys end in `data` or, with `toScratch`, in `scratch`.
+// One step of a most-significant-digit-first radix sort of unsigned integer keys, which
+// moves the keys between the data and a scratch area of the same size: the keys are
+// counted by their 8-bit digit at `shift` and scattered into their buckets in the other
+// area, and each bucket is then sorted by RadixSort, the two areas changing roles. The
+// sorted keys end in `data` or, with `toScratch`, in `scratch`.
 template <class K>
 void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, bool toScratch) {
     std::array<std::size_t, 256> count{};
