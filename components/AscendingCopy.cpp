@@ -182,9 +182,13 @@ void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, Pack
     const std::size_t n = std::size_t(V.Length());
     const int up = Bits - width;
     const PackedFloat* values = V.data();
+    // With 64 differing bits or fewer the high half is shared and the key is the low one.
     const auto keyOf = [up](const PackedFloat& x) {
         const Key key = KeyOf(x);
-        return K((Wide(key.high) << 64 | key.low) << up);
+        if constexpr (Bits == 64)
+            return key.low << up;
+        else
+            return (Wide(key.high) << 64 | key.low) << up;
     };
     // The first digit is wider, up to 12 bits for a million keys, so that the buckets
     // are few thousand keys at most (in cache for their own sorts) unless the values
@@ -211,11 +215,14 @@ void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, Pack
             start = end;
         }
     }
-    const Wide differing = ~Wide(0) >> (128 - width);
-    const Wide shared = (Wide(spread.all.high) << 64 | spread.all.low) & ~differing;
+    const K differing = ~K(0) >> up;
+    const K shared = K(Wide(spread.all.high) << 64 | spread.all.low) & ~differing;
     for (std::size_t i = 0; i < n; ++i) {
-        const Wide key = shared | (Wide(keys.get()[i]) >> up);
-        StoreKey(sorted[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
+        const K key = shared | keys.get()[i] >> up;
+        if constexpr (Bits == 64)
+            StoreKey(sorted[i], {key, spread.all.high});
+        else
+            StoreKey(sorted[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
     }
 }
 
