@@ -170,12 +170,12 @@ private:
     K* keys_;
 };
 
-// Sorts the keys of V as K, each the differing bits of its key (`width` of them, at
-// most the bits of K) shifted to the top of K, and writes the values they stand for
-// into `sorted`. The shared bits above come back from `spread`. The keys are made
-// twice, to be counted by their first digit and to be scattered by it, so that the
-// unsorted keys are never stored; the buckets are then sorted with a scratch area as
-// large as the largest of them.
+// Sorts V into `sorted` by the keys of its values as K, each the differing bits of its
+// key (`width` of them, at most the bits of K) shifted to the top of K. The values are
+// first scattered into `sorted` as they are, by the first digit of their keys; then each
+// bucket's keys are sorted in a buffer and scratch area as large as the largest bucket,
+// and written back as the values they stand for, the shared bits above coming back from
+// `spread`. So the keys of all the values are never held at once.
 template <class K>
 void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, PackedFloat* sorted) {
     constexpr int Bits = int(sizeof(K) * 8);
@@ -190,39 +190,39 @@ void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, Pack
         else
             return (Wide(key.high) << 64 | key.low) << up;
     };
-    // The first digit is wider, up to 12 bits for a million keys, so that the buckets
-    // are few thousand keys at most (in cache for their own sorts) unless the values
+    // The first digit is wider, up to 12 bits for a million values, so that the buckets
+    // are a few thousand values at most (in cache for their own sorts) unless the values
     // crowd together.
     const int first = std::clamp(int(std::bit_width(n)) - 8, 8, 12);
+    const auto firstDigit = [&keyOf, first](const PackedFloat& x) { return std::size_t(keyOf(x) >> (Bits - first)); };
     std::vector<std::size_t> next(std::size_t(1) << first);
-    for (std::size_t i = 0; i < n; ++i) ++next[std::size_t(keyOf(values[i]) >> (Bits - first))];
+    for (std::size_t i = 0; i < n; ++i) ++next[firstDigit(values[i])];
     std::size_t sum = 0, largest = 0;
     for (std::size_t& bucket : next) {
         largest = std::max(largest, bucket);
         sum += std::exchange(bucket, sum);
     }
-    const KeyBuffer<K> keys(n);
-    for (std::size_t i = 0; i < n; ++i) {
-        const K key = keyOf(values[i]);
-        keys.get()[next[std::size_t(key >> (Bits - first))]++] = key;
-    }
-    {
-        // next[b] is now the end of bucket b.
-        const KeyBuffer<K> scratch(largest);
-        std::size_t start = 0;
-        for (const std::size_t end : next) {
-            RadixSort(keys.get() + start, scratch.get(), end - start, false);
-            start = end;
-        }
-    }
+    for (std::size_t i = 0; i < n; ++i) sorted[next[firstDigit(values[i])]++] = values[i];
+
+    // next[b] is now the end of bucket b.
+    const KeyBuffer<K> keys(largest), scratch(largest);
     const K differing = ~K(0) >> up;
     const K shared = K(Wide(spread.all.high) << 64 | spread.all.low) & ~differing;
-    for (std::size_t i = 0; i < n; ++i) {
-        const K key = shared | keys.get()[i] >> up;
-        if constexpr (Bits == 64)
-            StoreKey(sorted[i], {key, spread.all.high});
-        else
-            StoreKey(sorted[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
+    std::size_t start = 0;
+    for (const std::size_t end : next) {
+        PackedFloat* bucket = sorted + start;
+        const std::size_t count = end - start;
+        start = end;
+        if (count < 2) continue;
+        for (std::size_t i = 0; i < count; ++i) keys.get()[i] = keyOf(bucket[i]);
+        RadixSort(keys.get(), scratch.get(), count, false);
+        for (std::size_t i = 0; i < count; ++i) {
+            const K key = shared | keys.get()[i] >> up;
+            if constexpr (Bits == 64)
+                StoreKey(bucket[i], {key, spread.all.high});
+            else
+                StoreKey(bucket[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
+        }
     }
 }
 
