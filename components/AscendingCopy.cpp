@@ -8,6 +8,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -170,31 +171,98 @@ private:
     K* keys_;
 };
 
-// Sorts V into `sorted` by the keys of its values as K, each the differing bits of its
-// key (`width` of them, at most the bits of K) shifted to the top of K. The values are
-// first scattered into `sorted` as they are, by the first digit of their keys; then each
-// bucket's keys are sorted in a buffer and scratch area as large as the largest bucket,
-// and written back as the values they stand for, the shared bits above coming back from
-// `spread`. So the keys of all the values are never held at once.
+// The number of key bits from the highest that differs between two keys down; 0 when
+// all the keys are the same.
+int WidthOf(const KeySpread& spread) {
+    const std::uint64_t high = spread.any.high ^ spread.all.high, low = spread.any.low ^ spread.all.low;
+    return high != 0 ? 128 - std::countl_zero(high) : 64 - std::countl_zero(low);
+}
+
+KeySpread SpreadOf(const PackedFloat* values, std::size_t n) {
+    KeySpread spread;
+    for (std::size_t i = 0; i < n; ++i) {
+        const Key key = KeyOf(values[i]);
+        spread.any.low |= key.low;
+        spread.any.high |= key.high;
+        spread.all.low &= key.low;
+        spread.all.high &= key.high;
+    }
+    return spread;
+}
+
+// The key of x as K: its differing bits (`width` of them, at most the bits of K) at the
+// top of K. With 64 or fewer the high half is shared, and the key is the low one.
 template <class K>
-void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, PackedFloat* sorted) {
+K KeyAsInteger(const PackedFloat& x, int width) {
+    constexpr int Bits = int(sizeof(K) * 8);
+    const Key key = KeyOf(x);
+    if constexpr (Bits == 64)
+        return key.low << (Bits - width);
+    else
+        return (Wide(key.high) << 64 | key.low) << (Bits - width);
+}
+
+// Sorts the n values at `values` in place by their keys as K (KeyAsInteger), with room
+// for n keys at `keys` and at `scratch`: the keys are sorted and written back as the
+// values they stand for, the shared bits above coming back from `spread`.
+template <class K>
+void SortByKeys(PackedFloat* values, std::size_t n, const KeySpread& spread, int width, K* keys, K* scratch) {
+    constexpr int Bits = int(sizeof(K) * 8);
+    for (std::size_t i = 0; i < n; ++i) keys[i] = KeyAsInteger<K>(values[i], width);
+    RadixSort(keys, scratch, n, false);
+    const int up = Bits - width;
+    const K shared = K(Wide(spread.all.high) << 64 | spread.all.low) & ~(~K(0) >> up);
+    for (std::size_t i = 0; i < n; ++i) {
+        const K key = shared | keys[i] >> up;
+        if constexpr (Bits == 64)
+            StoreKey(values[i], {key, spread.all.high});
+        else
+            StoreKey(values[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
+    }
+}
+
+// Room for up to `size` keys of each kind, taken when first needed.
+class KeyBuffers {
+public:
+    explicit KeyBuffers(std::size_t size) : size_(size) {}
+    template <class K>
+    std::pair<K*, K*> Get() {
+        auto& pair = Pair(static_cast<K*>(nullptr));
+        if (!pair[0]) {
+            pair[0].emplace(size_);
+            pair[1].emplace(size_);
+        }
+        return {pair[0]->get(), pair[1]->get()};
+    }
+
+private:
+    std::size_t size_;
+    std::array<std::optional<KeyBuffer<std::uint64_t>>, 2> narrow_;
+    std::array<std::optional<KeyBuffer<Wide>>, 2> wide_;
+    auto& Pair(std::uint64_t*) { return narrow_; }
+    auto& Pair(Wide*) { return wide_; }
+};
+
+// Sorts V into `sorted`, its keys differing in `width` bits. The values are first
+// scattered into `sorted` as they are, by the first digit of their keys; then each
+// bucket is sorted by SortByKeys, with 64-bit keys when its own values differ in no more
+// bits, in buffers as large as the largest bucket. So the keys of all the values are
+// never held at once, and a bucket that takes most of the values (as next to a far
+// outlier) mostly needs only the narrow keys.
+template <class K>
+void SortValues(const TKorFloatVector& V, int width, PackedFloat* sorted) {
     constexpr int Bits = int(sizeof(K) * 8);
     const std::size_t n = std::size_t(V.Length());
-    const int up = Bits - width;
     const PackedFloat* values = V.data();
-    // With 64 differing bits or fewer the high half is shared and the key is the low one.
-    const auto keyOf = [up](const PackedFloat& x) {
-        const Key key = KeyOf(x);
-        if constexpr (Bits == 64)
-            return key.low << up;
-        else
-            return (Wide(key.high) << 64 | key.low) << up;
-    };
     // The first digit is wider, up to 12 bits for a million values, so that the buckets
     // are a few thousand values at most (in cache for their own sorts) unless the values
-    // crowd together.
-    const int first = std::clamp(int(std::bit_width(n)) - 8, 8, 12);
-    const auto firstDigit = [&keyOf, first](const PackedFloat& x) { return std::size_t(keyOf(x) >> (Bits - first)); };
+    // crowd together. Of many values whose keys differ in more than 64 bits it is the
+    // top 16 bits, sign and exponent when all 79 differ: values of both signs crowd
+    // around a few exponents, and each bucket is then sorted by 64-bit keys.
+    const int first = Bits > 64 && n >= 65536 ? 16 : std::clamp(int(std::bit_width(n)) - 8, 8, 12);
+    const auto firstDigit = [width, first](const PackedFloat& x) {
+        return std::size_t(KeyAsInteger<K>(x, width) >> (Bits - first));
+    };
     std::vector<std::size_t> next(std::size_t(1) << first);
     for (std::size_t i = 0; i < n; ++i) ++next[firstDigit(values[i])];
     std::size_t sum = 0, largest = 0;
@@ -205,23 +273,22 @@ void SortKeys(const TKorFloatVector& V, const KeySpread& spread, int width, Pack
     for (std::size_t i = 0; i < n; ++i) sorted[next[firstDigit(values[i])]++] = values[i];
 
     // next[b] is now the end of bucket b.
-    const KeyBuffer<K> keys(largest), scratch(largest);
-    const K differing = ~K(0) >> up;
-    const K shared = K(Wide(spread.all.high) << 64 | spread.all.low) & ~differing;
+    KeyBuffers buffers(largest);
     std::size_t start = 0;
     for (const std::size_t end : next) {
         PackedFloat* bucket = sorted + start;
         const std::size_t count = end - start;
         start = end;
         if (count < 2) continue;
-        for (std::size_t i = 0; i < count; ++i) keys.get()[i] = keyOf(bucket[i]);
-        RadixSort(keys.get(), scratch.get(), count, false);
-        for (std::size_t i = 0; i < count; ++i) {
-            const K key = shared | keys.get()[i] >> up;
-            if constexpr (Bits == 64)
-                StoreKey(bucket[i], {key, spread.all.high});
-            else
-                StoreKey(bucket[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
+        const KeySpread spread = SpreadOf(bucket, count);
+        const int bucketWidth = WidthOf(spread);
+        if (bucketWidth == 0) continue;  // equal values: the same bytes
+        if (bucketWidth <= 64) {
+            const auto [keys, scratch] = buffers.Get<std::uint64_t>();
+            SortByKeys(bucket, count, spread, bucketWidth, keys, scratch);
+        } else {
+            const auto [keys, scratch] = buffers.Get<Wide>();
+            SortByKeys(bucket, count, spread, bucketWidth, keys, scratch);
         }
     }
 }
@@ -235,17 +302,14 @@ TKorFloatVector AscendingCopy(const TKorFloatVector& V) {
         KornumVector::QSortVector(sorted, true);
         return sorted;
     }
-    // The number of key bits from the highest that differs between two keys down; none
-    // when all values are the same (or there are none).
-    const std::uint64_t high = spread.any.high ^ spread.all.high, low = spread.any.low ^ spread.all.low;
-    const int width = high != 0 ? 128 - std::countl_zero(high) : 64 - std::countl_zero(low);
-    if (width == 0) return KornumVector::CopyVector(V);
+    const int width = WidthOf(spread);
+    if (width == 0) return KornumVector::CopyVector(V);  // no values, or all the same
     TKorFloatVector sorted;
     sorted.SetLength(V.Length());
     if (width <= 64)
-        SortKeys<std::uint64_t>(V, spread, width, sorted.data());
+        SortValues<std::uint64_t>(V, width, sorted.data());
     else
-        SortKeys<Wide>(V, spread, width, sorted.data());
+        SortValues<Wide>(V, width, sorted.data());
     return sorted;
 }
 
