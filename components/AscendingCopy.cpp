@@ -243,14 +243,14 @@ private:
     auto& Pair(Wide*) { return wide_; }
 };
 
-// Sorts V into `sorted`, its keys differing in `width` bits. The values are first
-// scattered into `sorted` as they are, by the first digit of their keys; then each
-// bucket is sorted by SortByKeys, with 64-bit keys when its own values differ in no more
-// bits, in buffers as large as the largest bucket. So the keys of all the values are
-// never held at once, and a bucket that takes most of the values (as next to a far
-// outlier) mostly needs only the narrow keys.
+// Sorts V into `sorted`, its keys differing in `width` bits (the spread of its keys in
+// `spread`). The values are first scattered into `sorted` as they are, by the first
+// digit of their keys; then each bucket is sorted by SortByKeys, with 64-bit keys when
+// its own values differ in no more bits, in buffers as large as the largest bucket. So
+// the keys of all the values are never held at once, and a bucket that takes most of
+// the values (as next to a far outlier) mostly needs only the narrow keys.
 template <class K>
-void SortValues(const TKorFloatVector& V, int width, PackedFloat* sorted) {
+void SortValues(const TKorFloatVector& V, const KeySpread& spread, int width, PackedFloat* sorted) {
     constexpr int Bits = int(sizeof(K) * 8);
     const std::size_t n = std::size_t(V.Length());
     const PackedFloat* values = V.data();
@@ -280,15 +280,20 @@ void SortValues(const TKorFloatVector& V, int width, PackedFloat* sorted) {
         const std::size_t count = end - start;
         start = end;
         if (count < 2) continue;
-        const KeySpread spread = SpreadOf(bucket, count);
-        const int bucketWidth = WidthOf(spread);
-        if (bucketWidth == 0) continue;  // equal values: the same bytes
-        if (bucketWidth <= 64) {
+        if constexpr (Bits == 64) {
             const auto [keys, scratch] = buffers.Get<std::uint64_t>();
-            SortByKeys(bucket, count, spread, bucketWidth, keys, scratch);
+            SortByKeys(bucket, count, spread, width, keys, scratch);
+            continue;
+        }
+        const KeySpread own = SpreadOf(bucket, count);
+        const int ownWidth = WidthOf(own);
+        if (ownWidth == 0) continue;  // equal values: the same bytes
+        if (ownWidth <= 64) {
+            const auto [keys, scratch] = buffers.Get<std::uint64_t>();
+            SortByKeys(bucket, count, own, ownWidth, keys, scratch);
         } else {
             const auto [keys, scratch] = buffers.Get<Wide>();
-            SortByKeys(bucket, count, spread, bucketWidth, keys, scratch);
+            SortByKeys(bucket, count, own, ownWidth, keys, scratch);
         }
     }
 }
@@ -307,9 +312,9 @@ TKorFloatVector AscendingCopy(const TKorFloatVector& V) {
     TKorFloatVector sorted;
     sorted.SetLength(V.Length());
     if (width <= 64)
-        SortValues<std::uint64_t>(V, width, sorted.data());
+        SortValues<std::uint64_t>(V, spread, width, sorted.data());
     else
-        SortValues<Wide>(V, width, sorted.data());
+        SortValues<Wide>(V, spread, width, sorted.data());
     return sorted;
 }
 
