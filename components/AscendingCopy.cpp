@@ -1,12 +1,16 @@
 #include "components/detail/AscendingCopy.hpp"
 
+#include <kornum/KorVector.h>
 #include <kornum/KornumVector.h>
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <utility>
+#include <vector>
 
 namespace KornumDescStats::detail {
 namespace {
@@ -15,107 +19,62 @@ using Kornumglobals::Integer;
 using Kornumglobals::PackedFloat;
 using Kornumglobals::TKorFloatVector;
 
-// An 80-bit key whose unsigned order is the numeric order of a canonical, non-NaN
-// Float: positive values get the top bit set, negative values have all bits inverted.
-// A Float's order-preserving key, held in the 10 bytes of the element itself: the
-// significand in bytes 0 to 7 and sign and exponent in bytes 8 and 9, as the value
-// holds them, changed so that comparing the keys as unsigned 80-bit integers (byte 9
-// most significant) orders the values. Negative values have every bit flipped, the
-// others only the sign bit set.
+// A canonical, non-NaN Float as a 79-bit unsigned integer whose order is the numeric
+// order: the exponent (15 bits) above the fraction (63 bits; the integer bit is left
+// out, since for a canonical value it is 1 exactly when the exponent is not 0), with
+// the sign bit on top set for positive values and every bit inverted for negative ones.
+// +0 and -0 get different keys, next to each other. Held as two halves: `high` has
+// key bits 64 to 78, `low` bits 0 to 63. The encoding is one to one, so a value is
+// rebuilt from its key byte for byte.
 struct Key {
-    std::uint64_t low;   // significand
-    std::uint16_t high;  // sign and exponent
+    std::uint64_t low;
+    std::uint64_t high;
 };
 
-Key Load(const PackedFloat& x) {
-    Key key;
-    std::memcpy(&key.low, x.Bytes, 8);
-    std::memcpy(&key.high, x.Bytes + 8, 2);
-    return key;
-}
-void Store(PackedFloat& x, const Key& key) {
-    std::memcpy(x.Bytes, &key.low, 8);
-    std::memcpy(x.Bytes + 8, &key.high, 2);
+// The sort key of values that differ in more than 64 bits (those spanning many
+// binades or both signs).
+__extension__ typedef unsigned __int128 Wide;
+
+constexpr std::uint64_t FractionMask = ~std::uint64_t(0) >> 1;
+
+Key KeyOf(const PackedFloat& x) {
+    std::uint64_t significand;
+    std::uint16_t signAndExponent;
+    std::memcpy(&significand, x.Bytes, 8);
+    std::memcpy(&signAndExponent, x.Bytes + 8, 2);
+    const std::uint64_t exponent = signAndExponent & 0x7FFF;
+    const std::uint64_t low = (significand & FractionMask) | (exponent << 63);
+    const std::uint64_t high = exponent >> 1;
+    if (signAndExponent & 0x8000) return {~low, ~high & 0x3FFF};
+    return {low, high | 0x4000};
 }
 
-void ToKey(PackedFloat& x) {
-    Key key = Load(x);
-    if (key.high & 0x8000) {
+void StoreKey(PackedFloat& x, Key key) {
+    const bool positive = (key.high & 0x4000) != 0;
+    if (!positive) {
         key.low = ~key.low;
-        key.high = std::uint16_t(~key.high);
-    } else {
-        key.high |= 0x8000;
+        key.high = ~key.high;
     }
-    Store(x, key);
+    const std::uint64_t exponent = ((key.high & 0x3FFF) << 1) | (key.low >> 63);
+    const std::uint64_t significand = (key.low & FractionMask) | (std::uint64_t(exponent != 0) << 63);
+    const std::uint16_t signAndExponent = std::uint16_t(exponent | (positive ? 0 : 0x8000));
+    std::memcpy(x.Bytes, &significand, 8);
+    std::memcpy(x.Bytes + 8, &signAndExponent, 2);
 }
 
-void FromKey(PackedFloat& x) {
-    Key key = Load(x);
-    if (key.high & 0x8000) {
-        key.high &= 0x7FFF;
-    } else {
-        key.low = ~key.low;
-        key.high = std::uint16_t(~key.high);
-    }
-    Store(x, key);
-}
+// The bits set in some key and those set in every key of V. A bit in the first and not
+// the second varies; the bits above the highest varying one are the same in every key,
+// so only the bits from that one down take part in the sort.
+struct KeySpread {
+    Key any{0, 0};
+    Key all{~std::uint64_t(0), 0x7FFF};
+};
 
-bool KeyBefore(const PackedFloat& a, const PackedFloat& b) {
-    const Key x = Load(a), y = Load(b);
-    return x.high != y.high ? x.high < y.high : x.low < y.low;
-}
-
-// Byte `level` of a key counted from the most significant (level 0 is byte 9).
-unsigned DigitOf(const PackedFloat& x, int level) { return x.Bytes[9 - level]; }
-
-// In-place most-significant-digit radix sort of keys (American flag sort): the elements
-// are counted into 256 buckets by one byte, moved into their buckets by following
-// cycles, and each bucket is sorted on the next byte; small ones by insertion. It needs
-// no memory beyond a few counters a level.
-void FlagSort(PackedFloat* a, std::size_t n, int level) {
-    constexpr std::size_t Small = 32;
-    while (n > Small && level < 10) {
-        std::array<std::size_t, 256> count{};
-        for (std::size_t i = 0; i < n; ++i) ++count[DigitOf(a[i], level)];
-        if (std::find(count.begin(), count.end(), n) != count.end()) {
-            ++level;  // one byte shared by all: on to the next
-            continue;
-        }
-        std::array<std::size_t, 256> next, end;
-        std::size_t sum = 0;
-        for (std::size_t b = 0; b < 256; ++b) {
-            next[b] = sum;
-            sum += count[b];
-            end[b] = sum;
-        }
-        for (std::size_t b = 0; b < 256; ++b) {
-            while (next[b] < end[b]) {
-                PackedFloat x = a[next[b]];
-                unsigned d = DigitOf(x, level);
-                while (d != b) {
-                    std::swap(x, a[next[d]++]);
-                    d = DigitOf(x, level);
-                }
-                a[next[b]++] = x;
-            }
-        }
-        std::size_t start = 0;
-        for (std::size_t b = 0; b < 256; ++b) {
-            if (count[b] > 1) FlagSort(a + start, count[b], level + 1);
-            start += count[b];
-        }
-        return;
-    }
-    for (std::size_t i = 1; i < n; ++i) {
-        const PackedFloat x = a[i];
-        std::size_t j = i;
-        for (; j > 0 && KeyBefore(x, a[j - 1]); --j) a[j] = a[j - 1];
-        a[j] = x;
-    }
-}
-
-bool SortsUniquely(const TKorFloatVector& V) {
-    bool positiveZero = false, negativeZero = false;
+// One pass over V: whether the radix sort gives what QSortVector gives (no NaN, no
+// non-canonical encoding, not both zeros), and the spread of the keys.
+bool SortsUniquely(const TKorFloatVector& V, KeySpread& spread) {
+    bool unordered = false, positiveZero = false, negativeZero = false;
+    Key any = spread.any, all = spread.all;
     for (const PackedFloat& x : V) {
         std::uint64_t significand;
         std::uint16_t signAndExponent;
@@ -123,31 +82,239 @@ bool SortsUniquely(const TKorFloatVector& V) {
         std::memcpy(&signAndExponent, x.Bytes + 8, 2);
         const unsigned exponent = signAndExponent & 0x7FFF;
         const bool integerBit = (significand >> 63) != 0;
-        if (exponent == 0x7FFF && (significand << 1) != 0) return false;  // NaN
-        if ((exponent == 0) == integerBit) return false;                   // non-canonical
-        if (exponent == 0 && significand == 0) {
-            (signAndExponent & 0x8000 ? negativeZero : positiveZero) = true;
-        }
+        unordered |= exponent == 0x7FFF && (significand << 1) != 0;  // NaN
+        unordered |= (exponent == 0) == integerBit;                   // non-canonical
+        const bool zero = exponent == 0 && significand == 0;
+        positiveZero |= zero && !(signAndExponent & 0x8000);
+        negativeZero |= zero && (signAndExponent & 0x8000);
+        const Key key = KeyOf(x);
+        any.low |= key.low;
+        any.high |= key.high;
+        all.low &= key.low;
+        all.high &= key.high;
     }
-    return !(positiveZero && negativeZero);
+    spread = {any, all};
+    return !unordered && !(positiveZero && negativeZero);
 }
 
-// Least-significant-byte-first radix sort of the keys; a byte that every key shares
-// needs no pass.
+// The position of the highest set bit of x (not 0).
+int HighestBit(std::uint64_t x) { return 63 - std::countl_zero(x); }
+int HighestBit(Wide x) {
+    const std::uint64_t high = std::uint64_t(x >> 64);
+    return high != 0 ? 64 + HighestBit(high) : HighestBit(std::uint64_t(x));
+}
+
+template <class K>
+void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch);
+
+// One step of a most-significant-digit-first radix sort of unsigned integer keys, which
+// moves the keys between the data and a scratch area of the same size: the keys are
+// counted by their 8-bit digit at `shift` and scattered into their buckets in the other
+// area, and each bucket is then sorted by RadixSort, the two areas changing roles. The
+// sorted keys end in `data` or, with `toScratch`, in `scratch`.
+template <class K>
+void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, bool toScratch) {
+    std::array<std::size_t, 256> count{};
+    for (std::size_t i = 0; i < n; ++i) ++count[unsigned(data[i] >> shift) & 0xFF];
+    std::array<std::size_t, 256> next;
+    std::size_t sum = 0;
+    for (std::size_t b = 0; b < 256; ++b) {
+        next[b] = sum;
+        sum += count[b];
+    }
+    for (std::size_t i = 0; i < n; ++i) scratch[next[unsigned(data[i] >> shift) & 0xFF]++] = data[i];
+    std::size_t start = 0;
+    for (std::size_t b = 0; b < 256; ++b) {
+        if (count[b] != 0) RadixSort(scratch + start, data + start, count[b], !toScratch);
+        start += count[b];
+    }
+}
+
+// Sorts the keys at `data` into `data` or, with `toScratch`, into `scratch`: small
+// groups by insertion, larger ones by ScatterByDigit on the eight highest bits in which
+// they differ, found with one pass over them (so that a run of equal keys costs one pass
+// and no digit is counted for nothing).
+template <class K>
+void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
+    constexpr std::size_t Small = 48;
+    if (n > Small) {
+        K any = 0, all = ~K(0);
+        for (std::size_t i = 0; i < n; ++i) {
+            any |= data[i];
+            all &= data[i];
+        }
+        if (any != all) return ScatterByDigit(data, scratch, n, std::max(HighestBit(any ^ all) - 7, 0), toScratch);
+    } else {
+        for (std::size_t i = 1; i < n; ++i) {
+            const K x = data[i];
+            std::size_t j = i;
+            for (; j > 0 && x < data[j - 1]; --j) data[j] = data[j - 1];
+            data[j] = x;
+        }
+    }
+    if (toScratch) std::copy(data, data + n, scratch);
+}
+
+// Uninitialised room for n keys, in the vectors' storage (huge pages for a large one).
+template <class K>
+class KeyBuffer {
+public:
+    explicit KeyBuffer(std::size_t n)
+        : bytes_(sizeof(K) * n), keys_(static_cast<K*>(Kornumglobals::AllocateVectorStorage(bytes_, alignof(K)))) {}
+    ~KeyBuffer() { Kornumglobals::FreeVectorStorage(keys_, bytes_, alignof(K)); }
+    KeyBuffer(const KeyBuffer&) = delete;
+    KeyBuffer& operator=(const KeyBuffer&) = delete;
+    K* get() const noexcept { return keys_; }
+
+private:
+    std::size_t bytes_;
+    K* keys_;
+};
+
+// The number of key bits from the highest that differs between two keys down; 0 when
+// all the keys are the same.
+int WidthOf(const KeySpread& spread) {
+    const std::uint64_t high = spread.any.high ^ spread.all.high, low = spread.any.low ^ spread.all.low;
+    return high != 0 ? 128 - std::countl_zero(high) : 64 - std::countl_zero(low);
+}
+
+KeySpread SpreadOf(const PackedFloat* values, std::size_t n) {
+    KeySpread spread;
+    for (std::size_t i = 0; i < n; ++i) {
+        const Key key = KeyOf(values[i]);
+        spread.any.low |= key.low;
+        spread.any.high |= key.high;
+        spread.all.low &= key.low;
+        spread.all.high &= key.high;
+    }
+    return spread;
+}
+
+// The key of x as K: its differing bits (`width` of them, at most the bits of K) at the
+// top of K. With 64 or fewer the high half is shared, and the key is the low one.
+template <class K>
+K KeyAsInteger(const PackedFloat& x, int width) {
+    constexpr int Bits = int(sizeof(K) * 8);
+    const Key key = KeyOf(x);
+    if constexpr (Bits == 64)
+        return key.low << (Bits - width);
+    else
+        return (Wide(key.high) << 64 | key.low) << (Bits - width);
+}
+
+// Sorts the n values at `values` in place by their keys as K (KeyAsInteger), with room
+// for n keys at `keys` and at `scratch`: the keys are sorted and written back as the
+// values they stand for, the shared bits above coming back from `spread`.
+template <class K>
+void SortByKeys(PackedFloat* values, std::size_t n, const KeySpread& spread, int width, K* keys, K* scratch) {
+    constexpr int Bits = int(sizeof(K) * 8);
+    for (std::size_t i = 0; i < n; ++i) keys[i] = KeyAsInteger<K>(values[i], width);
+    RadixSort(keys, scratch, n, false);
+    const int up = Bits - width;
+    const K shared = K(Wide(spread.all.high) << 64 | spread.all.low) & ~(~K(0) >> up);
+    for (std::size_t i = 0; i < n; ++i) {
+        const K key = shared | keys[i] >> up;
+        if constexpr (Bits == 64)
+            StoreKey(values[i], {key, spread.all.high});
+        else
+            StoreKey(values[i], {std::uint64_t(key), std::uint64_t(key >> 64)});
+    }
+}
+
+// Room for up to `size` keys of each kind, taken when first needed.
+class KeyBuffers {
+public:
+    explicit KeyBuffers(std::size_t size) : size_(size) {}
+    template <class K>
+    std::pair<K*, K*> Get() {
+        auto& pair = Pair(static_cast<K*>(nullptr));
+        if (!pair[0]) {
+            pair[0].emplace(size_);
+            pair[1].emplace(size_);
+        }
+        return {pair[0]->get(), pair[1]->get()};
+    }
+
+private:
+    std::size_t size_;
+    std::array<std::optional<KeyBuffer<std::uint64_t>>, 2> narrow_;
+    std::array<std::optional<KeyBuffer<Wide>>, 2> wide_;
+    auto& Pair(std::uint64_t*) { return narrow_; }
+    auto& Pair(Wide*) { return wide_; }
+};
+
+// Sorts V into `sorted`, its keys differing in `width` bits (the spread of its keys in
+// `spread`). The values are first scattered into `sorted` as they are, by the first
+// digit of their keys; then each bucket is sorted by SortByKeys, with 64-bit keys when
+// its own values differ in no more bits, in buffers as large as the largest bucket. So
+// the keys of all the values are never held at once, and a bucket that takes most of
+// the values (as next to a far outlier) mostly needs only the narrow keys.
+template <class K>
+void SortValues(const TKorFloatVector& V, const KeySpread& spread, int width, PackedFloat* sorted) {
+    constexpr int Bits = int(sizeof(K) * 8);
+    const std::size_t n = std::size_t(V.Length());
+    const PackedFloat* values = V.data();
+    // The first digit is wider, up to 12 bits for a million values, so that the buckets
+    // are a few thousand values at most (in cache for their own sorts) unless the values
+    // crowd together. Of many values whose keys differ in more than 64 bits it is the
+    // top 16 bits, sign and exponent when all 79 differ: values of both signs crowd
+    // around a few exponents, and each bucket is then sorted by 64-bit keys.
+    const int first = Bits > 64 && n >= 65536 ? 16 : std::clamp(int(std::bit_width(n)) - 8, 8, 12);
+    const auto firstDigit = [width, first](const PackedFloat& x) {
+        return std::size_t(KeyAsInteger<K>(x, width) >> (Bits - first));
+    };
+    std::vector<std::size_t> next(std::size_t(1) << first);
+    for (std::size_t i = 0; i < n; ++i) ++next[firstDigit(values[i])];
+    std::size_t sum = 0, largest = 0;
+    for (std::size_t& bucket : next) {
+        largest = std::max(largest, bucket);
+        sum += std::exchange(bucket, sum);
+    }
+    for (std::size_t i = 0; i < n; ++i) sorted[next[firstDigit(values[i])]++] = values[i];
+
+    // next[b] is now the end of bucket b.
+    KeyBuffers buffers(largest);
+    std::size_t start = 0;
+    for (const std::size_t end : next) {
+        PackedFloat* bucket = sorted + start;
+        const std::size_t count = end - start;
+        start = end;
+        if (count < 2) continue;
+        if constexpr (Bits == 64) {
+            const auto [keys, scratch] = buffers.Get<std::uint64_t>();
+            SortByKeys(bucket, count, spread, width, keys, scratch);
+            continue;
+        }
+        const KeySpread own = SpreadOf(bucket, count);
+        const int ownWidth = WidthOf(own);
+        if (ownWidth == 0) continue;  // equal values: the same bytes
+        if (ownWidth <= 64) {
+            const auto [keys, scratch] = buffers.Get<std::uint64_t>();
+            SortByKeys(bucket, count, own, ownWidth, keys, scratch);
+        } else {
+            const auto [keys, scratch] = buffers.Get<Wide>();
+            SortByKeys(bucket, count, own, ownWidth, keys, scratch);
+        }
+    }
+}
+
 }  // namespace
 
 TKorFloatVector AscendingCopy(const TKorFloatVector& V) {
-    if (!SortsUniquely(V)) {
+    KeySpread spread;
+    if (!SortsUniquely(V, spread)) {
         TKorFloatVector sorted = KornumVector::CopyVector(V);
         KornumVector::QSortVector(sorted, true);
         return sorted;
     }
-    TKorFloatVector sorted = KornumVector::CopyVector(V);
-    PackedFloat* a = sorted.data();
-    const std::size_t n = std::size_t(sorted.Length());
-    for (std::size_t i = 0; i < n; ++i) ToKey(a[i]);
-    FlagSort(a, n, 0);
-    for (std::size_t i = 0; i < n; ++i) FromKey(a[i]);
+    const int width = WidthOf(spread);
+    if (width == 0) return KornumVector::CopyVector(V);  // no values, or all the same
+    TKorFloatVector sorted;
+    sorted.SetLength(V.Length());
+    if (width <= 64)
+        SortValues<std::uint64_t>(V, spread, width, sorted.data());
+    else
+        SortValues<Wide>(V, spread, width, sorted.data());
     return sorted;
 }
 

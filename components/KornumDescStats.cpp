@@ -2,6 +2,7 @@
 
 #include "components/detail/AscendingCopy.hpp"
 #include "components/detail/ReportEntries.hpp"
+#include "statistics/detail/ShapeFromSums.hpp"
 
 #include <kornum/KornumPackage.h>
 #include <kornum/KornumStatistics.h>
@@ -34,6 +35,42 @@ void RoundValuesInto(const TKorFloatVector& values, const TKorVector<Target>& re
                                     " are needed");
     for (Integer i = 0; i < values.Length(); ++i)
         result[i] = static_cast<Target>(std::llrint(Float(values[i])));
+}
+
+// The sums of the values and of their squares, as SumVector and SumSqVector form them
+// (from the first term on), in one pass.
+struct Sums {
+    Float values, squares;
+};
+Sums SumsOf(const TKorFloatVector& V) {
+    const PackedFloat* data = V.data();
+    const Float first = data[0];
+    Sums sums{first, first * first};
+    for (Integer i = 1; i < V.Length(); ++i) {
+        const Float x = data[i];
+        sums.values = sums.values + x;
+        sums.squares = sums.squares + x * x;
+    }
+    return sums;
+}
+
+// The sums of the squared, cubed and fourth-power deviations from Mean, in one pass: the
+// first as SumSqDiffVector forms it (from the first term on), the others as the skew and
+// kurtosis of KornumStatistics do (from 0).
+struct Deviations {
+    Float squares, cubes, fourthPowers;
+};
+Deviations DeviationsOf(const TKorFloatVector& V, Float Mean) {
+    const PackedFloat* data = V.data();
+    const Float first = Float(data[0]) - Mean;
+    Deviations sums{first * first, Float(0) + first * first * first, Float(0) + (first * first) * (first * first)};
+    for (Integer i = 1; i < V.Length(); ++i) {
+        const Float d = Float(data[i]) - Mean;
+        sums.squares = sums.squares + d * d;
+        sums.cubes += d * d * d;
+        sums.fourthPowers += (d * d) * (d * d);
+    }
+    return sums;
 }
 
 const TKorDescStats& Self(const Platform::TComponent& component) {
@@ -210,11 +247,15 @@ void TKorDescStats::UpdateStats() {
     if (n == 0) return ResetStatistics();
 
     sorted_ = detail::AscendingCopy(values_);  // what QSortVector gives, in linear time
-    sum_ = KornumVector::SumVector(values_);
-    sumSq_ = KornumVector::SumSqVector(values_);
+    // The sums of SumVector and SumSqVector, then those of SumSqDiffVector and of the
+    // skew and kurtosis, each summed in its own order, two sums or three to a pass.
+    const Sums sums = SumsOf(values_);
+    sum_ = sums.values;
+    sumSq_ = sums.squares;
     mean_ = sum_ / n;
+    const Deviations deviations = DeviationsOf(values_, mean_);
 
-    const Float ssd = KornumVector::SumSqDiffVector(values_, mean_);
+    const Float ssd = deviations.squares;
     if (population_) {
         variance_ = ssd / n;
     } else {
@@ -227,15 +268,16 @@ void TKorDescStats::UpdateStats() {
     minimum_ = sorted_[0];
     maximum_ = sorted_[n - 1];
 
+    using namespace KornumStatistics::detail;
     const bool spread = !Kornummath::FloatIsZero(stdDev_);
     kurtosis_ = 0;
     if (n > 3 && spread)
-        kurtosis_ = population_ ? KornumStatistics::GetPopulationKurtosis(values_, mean_, stdDev_)
-                                : KornumStatistics::GetSampleKurtosis(values_, mean_, stdDev_);
+        kurtosis_ = population_ ? PopulationKurtosisFromSum(n, deviations.fourthPowers, stdDev_)
+                                : SampleKurtosisFromSum(n, deviations.fourthPowers, stdDev_);
     skew_ = 0;
     if (n > 2 && spread)
-        skew_ = population_ ? KornumStatistics::GetPopulationSkew(values_, mean_, stdDev_)
-                            : KornumStatistics::GetSampleSkew(values_, mean_, stdDev_);
+        skew_ = population_ ? PopulationSkewFromSum(n, deviations.cubes, stdDev_)
+                            : SampleSkewFromSum(n, deviations.cubes, stdDev_);
 
     KornumStatistics::GetQuartiles(sorted_, quartile1st_, quartile3rd_);
     iqr_ = quartile3rd_ - quartile1st_;

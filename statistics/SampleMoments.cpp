@@ -1,5 +1,6 @@
 #include <kornum/SampleMoments.h>
 
+#include "statistics/detail/ShapeFromSums.hpp"
 #include "statistics/detail/StatisticsChecks.hpp"
 
 #include <kornum/KornumVector.h>
@@ -264,33 +265,53 @@ Float SumFourthPowerDeviations(const TKorFloatVector& X, Float Mean) {
 }
 }  // namespace
 
+namespace detail {
+
+Float SampleSkewFromSum(Integer N, Float SumCubes, Float StdDev) {
+    const Float n = Float(N);
+    const Float s = StdDev;
+    return n * SumCubes / (s * s * ((n - 1) * (n - 2)) * s);
+}
+
+Float PopulationSkewFromSum(Integer N, Float SumCubes, Float StdDev) {
+    const Float n = Float(N);
+    const Float s = StdDev;
+    return SumCubes / (s * s * n * s);
+}
+
+Float SampleKurtosisFromSum(Integer N, Float SumFourthPowers, Float StdDev) {
+    const Float n = Float(N);
+    const Float s4 = (StdDev * StdDev) * (StdDev * StdDev);
+    return n * (n + 1) * SumFourthPowers / (s4 * ((n - 1) * (n - 2) * (n - 3))) -
+           3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3));
+}
+
+Float PopulationKurtosisFromSum(Integer N, Float SumFourthPowers, Float StdDev) {
+    const Float n = Float(N);
+    const Float s4 = (StdDev * StdDev) * (StdDev * StdDev);
+    return SumFourthPowers / (s4 * n) - 3;
+}
+
+}  // namespace detail
+
 Float GetSampleSkew(const TKorFloatVector& X, Float Mean, Float StdDev) {
     RequireShapeArguments(X, StdDev, 3, RS::rsVectorG2);
-    const Float n = Float(X.Length());
-    const Float s = StdDev;
-    return n * SumCubedDeviations(X, Mean) / (s * s * ((n - 1) * (n - 2)) * s);
+    return detail::SampleSkewFromSum(X.Length(), SumCubedDeviations(X, Mean), StdDev);
 }
 
 Float GetPopulationSkew(const TKorFloatVector& X, Float Mean, Float StdDev) {
     RequireShapeArguments(X, StdDev, 3, RS::rsVectorG2);
-    const Float n = Float(X.Length());
-    const Float s = StdDev;
-    return SumCubedDeviations(X, Mean) / (s * s * n * s);
+    return detail::PopulationSkewFromSum(X.Length(), SumCubedDeviations(X, Mean), StdDev);
 }
 
 Float GetSampleKurtosis(const TKorFloatVector& X, Float Mean, Float StdDev) {
     RequireShapeArguments(X, StdDev, 4, RS::rsVectorG3);
-    const Float n = Float(X.Length());
-    const Float s4 = (StdDev * StdDev) * (StdDev * StdDev);
-    return n * (n + 1) * SumFourthPowerDeviations(X, Mean) / (s4 * ((n - 1) * (n - 2) * (n - 3))) -
-           3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3));
+    return detail::SampleKurtosisFromSum(X.Length(), SumFourthPowerDeviations(X, Mean), StdDev);
 }
 
 Float GetPopulationKurtosis(const TKorFloatVector& X, Float Mean, Float StdDev) {
     RequireShapeArguments(X, StdDev, 4, RS::rsVectorG3);
-    const Float n = Float(X.Length());
-    const Float s4 = (StdDev * StdDev) * (StdDev * StdDev);
-    return SumFourthPowerDeviations(X, Mean) / (s4 * n) - 3;
+    return detail::PopulationKurtosisFromSum(X.Length(), SumFourthPowerDeviations(X, Mean), StdDev);
 }
 
 }  // namespace KornumStatistics

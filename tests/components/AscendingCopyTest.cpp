@@ -10,6 +10,7 @@
 #include <cstring>
 #include <limits>
 #include <random>
+#include <utility>
 
 using namespace Kornumglobals;
 
@@ -54,6 +55,33 @@ TEST(AscendingCopy, EqualsQSortVectorWhereEqualValuesHaveEqualBytes) {
     close.SetLength(200000);
     for (Integer i = 0; i < close.Length(); ++i) close[i] = 1000 + Float(Integer(random() % 30000) - 15000) / 7;
     ExpectSameAsQSort(close);
+}
+
+TEST(AscendingCopy, EqualsQSortVectorOnEitherSideOfSixtyFourDifferingBits) {
+    // Keys differ in the 63 fraction bits and in the exponent bits from the highest that
+    // varies down: [512, 2048) spans two exponents that differ in their lowest bit and
+    // needs 64 bits, [4, 16) two that differ in their lowest two bits and needs 65; both
+    // signs need all 79.
+    std::mt19937_64 random(7);
+    std::uniform_real_distribution<double> unit(0, 1);
+    for (const auto& [low, high] : {std::pair{512.0L, 2048.0L}, {4.0L, 16.0L}, {-1.5L, 1.5L}, {1.0L, 1.0L + 1e-12L}}) {
+        for (int n : {40, 3000, 100000}) {
+            TKorFloatVector v;
+            v.SetLength(n);
+            for (Integer i = 0; i < n; ++i) {
+                // Half of them repeats of a few hundred values, the rest with full significands.
+                const Float u = i % 2 ? Float(random() % 300) / 300 : Float(unit(random)) + Float(unit(random)) * 0x1p-53L;
+                v[i] = low + (high - low) * u;
+            }
+            ExpectSameAsQSort(v);
+            v[n / 2] = 1e300L;  // a far outlier: the others crowd into one bucket
+            ExpectSameAsQSort(v);
+        }
+    }
+    TKorFloatVector same;
+    same.SetLength(5000);
+    for (PackedFloat& x : same) x = -7.25L;
+    ExpectSameAsQSort(same);
 }
 
 TEST(AscendingCopy, KeepsTheArrangementOfNaNsAndMixedZeros) {

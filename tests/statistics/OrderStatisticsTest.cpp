@@ -81,6 +81,8 @@ TEST(ModeAndMostFrequent, RunsOfSameFloatNeighboursAndTheFinalRunQuirk) {
         {{1, 1, 2, 2, 3, 3, 3}, true, 3},  // a longer final run clears the tie
         {{1, 2, 2, 2, 3, 3}, true, 2}, {{1, 2, 3, 3}, true, 3}, {{9}, true, 9},
         {{1, 2, 2 + 1e-17L, 3}, true, 2 + 1e-17L},  // equal within tolerance: one run
+        {{-0.0L, 0.0L, 1}, true, 0},                // equal values with different bytes
+        {{1, std::nanl(""), std::nanl(""), std::nanl("")}, false, -1.1e4932L},  // NaNs, bytes alike, never
     };
     for (const auto& [x, single, expected] : modes) {
         Float mode = 0;
