@@ -9,7 +9,7 @@
 /// - `TKorRankSelection` (two or three passes): the values at given ranks (median,
 ///   quartiles), found by counting the prefixes of an order-preserving key of each value
 ///   (`PrefixCounts`) and narrowing to the buckets that hold the ranks, until the few
-///   candidates left are gathered (`CollectPrefix`).
+///   candidates left are gathered (`CollectPrefixes`).
 /// - `TKorRunSummary` (moves the data once): the mode, from the runs of equal neighbours
 ///   of each range of keys, sorted where it lands; adjacent ranges merge in key order.
 #pragma once
@@ -131,13 +131,15 @@ std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values,
                                         const std::vector<TKorPrefixRequest>& Requests);
 /// Adds histogram From into Into (both for the same requests).
 void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogram>& From);
-/// The values of Values whose key starts with the top Bits bits of Prefix.
-std::vector<Float> CollectPrefix(std::span<const Float> Values, TKorKey Prefix, int Bits);
+/// For each prefix, the values of Values whose key starts with its top Bits bits, in one
+/// pass over the values.
+std::vector<std::vector<Float>> CollectPrefixes(std::span<const Float> Values,
+                                                const std::vector<TKorPrefixRequest>& Prefixes);
 
 /// The exact values at given ranks (counted from 0 in ascending order) of N values spread
 /// over shards. Each round asks the shards for `Requests` (through `PrefixCounts`) and
 /// hands the merged histograms to `Narrow`; when `Gathering` is true it asks them instead
-/// for the values under `GatherPrefix` (`CollectPrefix`) and hands those to `Gathered`.
+/// for the values under `GatherPrefixes` (`CollectPrefixes`) and hands those to `Gathered`.
 class TKorRankSelection {
 public:
     /// Selection of the given ranks (each below N) of N values; buckets of at most
@@ -191,7 +193,7 @@ std::vector<Int64> ReportRanks(Int64 N);
 class TKorRunSummary {
 public:
     /// The runs of Values (sorted here; NaN not allowed).
-    static TKorRunSummary OfValues(std::vector<Float> Values);
+    static TKorRunSummary OfValues(std::span<const Float> Values);
     /// Appends the summary of the range that follows this one.
     void Append(const TKorRunSummary& Next);
     /// True with the mode when one run is longer than every other (a single value is its

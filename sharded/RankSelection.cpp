@@ -1,5 +1,7 @@
 #include <kornum/KornumSharded.h>
 
+#include "sharded/detail/KeyBytes.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -25,17 +27,7 @@ std::uint32_t NextBits(u128 key, int bits) { return std::uint32_t(key >> (64 - b
 
 }  // namespace
 
-TKorKey KeyOf(Float X) noexcept {
-    unsigned char raw[16] = {};
-    std::memcpy(raw, &X, 10);
-    std::uint64_t low;
-    std::memcpy(&low, raw, 8);
-    const std::uint16_t high = std::uint16_t(raw[8] | raw[9] << 8);
-    const u128 bits = u128(high) << 64 | low;
-    const u128 mask = (u128(1) << 80) - 1;
-    // Negative values count down from the sign bit, positive ones up from it.
-    return Narrowed((high & 0x8000) ? ~bits & mask : bits | u128(1) << 79);
-}
+TKorKey KeyOf(Float X) noexcept { return detail::KeyAt(&X); }
 
 Float ValueOf(TKorKey K) noexcept {
     const u128 key = Wide(K);
@@ -56,8 +48,8 @@ std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values, const std
     std::vector<std::vector<std::uint64_t>> dense(Requests.size(), std::vector<std::uint64_t>(1 << 16));
     std::vector<u128> prefixes;
     for (const TKorPrefixRequest& r : Requests) prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
-    for (const Float x : Values) {
-        const u128 key = Wide(KeyOf(x));
+    for (const Float& x : Values) {
+        const u128 key = Wide(detail::KeyAt(&x));
         for (std::size_t i = 0; i < Requests.size(); ++i) {
             const int bits = Requests[i].Bits;
             if (bits && (key >> (80 - bits)) != (prefixes[i] >> (80 - bits))) continue;
@@ -87,12 +79,17 @@ void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogr
     }
 }
 
-std::vector<Float> CollectPrefix(std::span<const Float> Values, TKorKey Prefix, int Bits) {
-    std::vector<Float> result;
-    const u128 prefix = Wide(Truncated(Prefix, Bits));
-    for (const Float x : Values) {
-        const u128 key = Wide(KeyOf(x));
-        if (Bits == 0 || (key >> (80 - Bits)) == (prefix >> (80 - Bits))) result.push_back(x);
+std::vector<std::vector<Float>> CollectPrefixes(std::span<const Float> Values,
+                                                const std::vector<TKorPrefixRequest>& Prefixes) {
+    std::vector<std::vector<Float>> result(Prefixes.size());
+    std::vector<u128> prefixes;
+    for (const TKorPrefixRequest& r : Prefixes) prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
+    for (const Float& x : Values) {
+        const u128 key = Wide(detail::KeyAt(&x));
+        for (std::size_t i = 0; i < Prefixes.size(); ++i) {
+            const int bits = Prefixes[i].Bits;
+            if (bits == 0 || (key >> (80 - bits)) == (prefixes[i] >> (80 - bits))) result[i].push_back(x);
+        }
     }
     return result;
 }
@@ -125,12 +122,19 @@ std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
     return bounds;
 }
 
+// Each value's range first, then the parts filled at their final sizes: no part grows
+// by reallocation, which would copy most values several times.
 std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, const std::vector<TKorKey>& Bounds) {
-    std::vector<std::vector<Float>> parts(Bounds.size() + 1);
-    for (const Float x : Values) {
-        const TKorKey key = KeyOf(x);
-        parts[std::size_t(std::upper_bound(Bounds.begin(), Bounds.end(), key) - Bounds.begin())].push_back(x);
+    std::vector<std::uint32_t> rangeOf(Values.size());
+    std::vector<std::size_t> sizes(Bounds.size() + 1);
+    for (std::size_t i = 0; i < Values.size(); ++i) {
+        const TKorKey key = detail::KeyAt(&Values[i]);
+        rangeOf[i] = std::uint32_t(std::upper_bound(Bounds.begin(), Bounds.end(), key) - Bounds.begin());
+        ++sizes[rangeOf[i]];
     }
+    std::vector<std::vector<Float>> parts(Bounds.size() + 1);
+    for (std::size_t j = 0; j < parts.size(); ++j) parts[j].reserve(sizes[j]);
+    for (std::size_t i = 0; i < Values.size(); ++i) parts[rangeOf[i]].push_back(Values[i]);
     return parts;
 }
 

@@ -36,9 +36,10 @@ struct Decomposed {
     std::int64_t exponent;
 };
 
-Decomposed Decompose(Float x) {
-    unsigned char raw[16] = {};
-    std::memcpy(raw, &x, 10);
+// From the stored bytes of the value (a copy through the FPU would cost more than the rest).
+Decomposed Decompose(const Float* x) {
+    unsigned char raw[10];
+    std::memcpy(raw, x, 10);
     std::uint64_t significand;
     std::memcpy(&significand, raw, 8);
     const unsigned top = unsigned(raw[8]) | unsigned(raw[9]) << 8;
@@ -107,12 +108,12 @@ struct TKorShardSummary::Sums {
         std::unordered_map<std::int64_t, std::size_t> binOf;  // by 2 * exponent + sign
         std::int64_t lastKey = 0;
         std::size_t last = 0;
-        for (const Float x : values) {
+        for (const Float& x : values) {
             if (!std::isfinite(x)) {
                 if (!std::isnan(x)) ++(x > 0 ? plusInf : minusInf);
                 continue;
             }
-            const Decomposed d = Decompose(x);
+            const Decomposed d = Decompose(&x);
             if (d.significand == 0) continue;
             const std::int64_t key = 2 * d.exponent + d.negative;
             if (bins.empty() || key != lastKey) {

@@ -2,10 +2,12 @@
 
 #include "components/detail/ReportEntries.hpp"
 #include "sharded/detail/Bytes.hpp"
+#include "sharded/detail/KeyBytes.hpp"
 
 #include <kornum/Kornummath.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -16,55 +18,102 @@ namespace KornumSharded {
 
 namespace {
 
-// The values in ascending order by a radix sort of their keys: 16 bits a pass from the
-// least significant, skipping the passes whose digit is the same for every value (most
-// of them within a narrow range of keys).
-void SortByKey(std::vector<Float>& values) {
-    std::vector<TKorKey> keys(values.size()), spare(values.size());
-    for (std::size_t i = 0; i < values.size(); ++i) keys[i] = KeyOf(values[i]);
-    std::vector<std::size_t> counts(std::size_t(1) << 16);
-    for (int pass = 0; pass < 5; ++pass) {
-        const auto digit = [pass](const TKorKey& k) {
-            return pass == 4 ? std::size_t(k.High) : std::size_t(k.Low >> (16 * pass)) & 0xffff;
-        };
-        std::fill(counts.begin(), counts.end(), 0);
-        for (const TKorKey& k : keys) ++counts[digit(k)];
-        if (counts[digit(keys[0])] == keys.size()) continue;
-        std::size_t start = 0;
-        for (std::size_t& c : counts) start += std::exchange(c, start);
-        for (const TKorKey& k : keys) spare[counts[digit(k)]++] = k;
-        keys.swap(spare);
+// One stable counting pass of the keys by a digit below Buckets, through spare.
+template <std::size_t Buckets, class Key, class Digit>
+void CountingPass(std::vector<Key>& keys, std::vector<Key>& spare, Digit digit) {
+    std::array<std::size_t, Buckets> start{};
+    for (const Key& k : keys) ++start[digit(k)];
+    std::size_t sum = 0;
+    for (std::size_t& s : start) sum += std::exchange(s, sum);
+    for (const Key& k : keys) spare[start[digit(k)]++] = k;
+    keys.swap(spare);
+}
+
+// Calls visit(x) for each value in ascending order, sorting only the keys: a radix sort
+// from the least significant digit, 11 bits a digit (2048 counters, which stay in the
+// first-level cache), skipping every digit in which no two keys differ. Where the bits in
+// which keys differ span at most 64 (values of one sign within a few binary orders of
+// magnitude, as a range of the mode usually holds), only those 64 bits are moved, half
+// the bytes of a whole key.
+template <class Visit>
+void ForEachAscending(std::span<const Float> values, Visit visit) {
+    __extension__ typedef unsigned __int128 u128;  // GCC's 128-bit integer
+    const auto wide = [](const TKorKey& k) { return u128(k.High) << 64 | k.Low; };
+    const std::size_t n = values.size();
+    u128 any = 0, all = ~u128(0);
+    for (const Float& x : values) {
+        const u128 key = wide(detail::KeyAt(&x));
+        any |= key;
+        all &= key;
     }
-    for (std::size_t i = 0; i < values.size(); ++i) values[i] = ValueOf(keys[i]);
+    const u128 varying = any ^ all;
+    if (varying == 0) {  // one value throughout
+        for (const Float& x : values) visit(x);
+        return;
+    }
+    constexpr int Bits = 11;
+    constexpr std::uint64_t Mask = (std::uint64_t(1) << Bits) - 1;
+    const auto sort = [](auto& k, auto& spare, std::uint64_t varies, auto lowOf) {
+        for (int shift = 0; shift < 64; shift += Bits)
+            if ((varies >> shift) & Mask)
+                CountingPass<std::size_t(1) << Bits>(k, spare, [&](const auto& key) { return (lowOf(key) >> shift) & Mask; });
+    };
+    const std::uint64_t low = std::uint64_t(varying), high = std::uint64_t(varying >> 64);
+    const int lowest = low ? __builtin_ctzll(low) : 64 + __builtin_ctzll(high);
+    const int highest = high ? 127 - __builtin_clzll(high) : 63 - __builtin_clzll(low);
+    if (highest - lowest < 64) {
+        std::vector<std::uint64_t> window(n), spare(n);
+        for (std::size_t i = 0; i < n; ++i) window[i] = std::uint64_t(wide(detail::KeyAt(&values[i])) >> lowest);
+        sort(window, spare, std::uint64_t(varying >> lowest), [](std::uint64_t k) { return k; });
+        // The bits outside the window are the same in every key.
+        const u128 shared = all & ~(u128(~std::uint64_t(0)) << lowest);
+        for (const std::uint64_t w : window) {
+            const u128 key = shared | u128(w) << lowest;
+            visit(ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}));
+        }
+        return;
+    }
+    std::vector<TKorKey> keys(n), spare(n);
+    for (std::size_t i = 0; i < n; ++i) keys[i] = detail::KeyAt(&values[i]);
+    sort(keys, spare, low, [](const TKorKey& k) { return k.Low; });
+    for (int shift = 0; shift < 16; shift += 8)
+        if ((high >> shift) & 0xff)
+            CountingPass<256>(keys, spare, [shift](const TKorKey& k) { return std::size_t(k.High >> shift) & 0xff; });
+    for (const TKorKey& k : keys) visit(ValueOf(k));
 }
 
 }  // namespace
 
-TKorRunSummary TKorRunSummary::OfValues(std::vector<Float> Values) {
+// One walk over the runs of equal neighbours in ascending order: the first is the open run
+// at the start, the last the open run at the end, the others are closed.
+TKorRunSummary TKorRunSummary::OfValues(std::span<const Float> Values) {
     TKorRunSummary s;
-    if (Values.empty()) return s;
-    SortByKey(Values);
-    // One walk over the runs of equal neighbours: the first is the open run at the start,
-    // the last the open run at the end, the others are closed.
     const std::size_t n = Values.size();
-    std::size_t start = 0;
-    for (std::size_t i = 1; i <= n; ++i) {
-        if (i < n && Kornummath::SameFloat(Values[i], Values[i - 1])) continue;
-        const Int64 length = Int64(i - start);
-        if (start == 0) {
-            s.lead_ = length;
-            s.leadLast_ = Values[i - 1];
+    if (n == 0) return s;
+    std::size_t i = 0, start = 0;
+    Float previous = 0;
+    ForEachAscending(Values, [&](Float x) {
+        if (i == 0) {
+            s.first_ = x;
+        } else if (!Kornummath::SameFloat(x, previous)) {  // the run [start, i) ends
+            if (start == 0) {
+                s.lead_ = Int64(i);
+                s.leadLast_ = previous;
+            } else {
+                s.Close(Int64(i - start), previous);
+            }
+            start = i;
         }
-        if (i == n) {
-            s.trail_ = length;
-        } else if (start != 0) {
-            s.Close(length, Values[i - 1]);
-        }
-        start = i;
+        previous = x;
+        ++i;
+    });
+    if (start == 0) {
+        s.lead_ = Int64(n);
+        s.leadLast_ = previous;
     }
+    s.trail_ = Int64(n - start);
     s.count_ = Int64(n);
-    s.first_ = Values.front();
-    s.last_ = Values.back();
+    s.last_ = previous;
     return s;
 }
 

@@ -14,6 +14,8 @@
 #include <kornum/Kornumconvert.h>
 #include <kornum/Platform.h>
 
+#include <cstring>
+
 namespace KornumPython {
 
 namespace {
@@ -25,7 +27,7 @@ std::span<const Float> Span(const FloatArray& a) { return {a.data(), std::size_t
 
 py::array_t<Float> FromFloats(const std::vector<Float>& values) {
     py::array_t<Float> result(py::ssize_t(values.size()));
-    std::copy(values.begin(), values.end(), result.mutable_data());
+    if (!values.empty()) std::memcpy(result.mutable_data(), values.data(), values.size() * sizeof(Float));
     return result;
 }
 
@@ -128,9 +130,13 @@ void BindSharded(py::module_& m) {
           }, py::arg("parts"));
     m.def("collect_prefix", [](py::handle values, const std::vector<RequestTuple>& prefixes) {
               const FloatArray array = ToFloatVector(values, "values");
+              std::vector<std::vector<Float>> collected;
+              {
+                  py::gil_scoped_release release;
+                  collected = CollectPrefixes(Span(array), Requests(prefixes));
+              }
               py::list lists;
-              for (const auto& [high, low, bits] : prefixes)
-                  lists.append(FromFloats(CollectPrefix(Span(array), {high, low}, bits)));
+              for (const auto& some : collected) lists.append(FromFloats(some));
               return lists;
           }, py::arg("values"), py::arg("prefixes"));
     m.def("range_bounds", [](const TKorHistogram& top, const std::vector<std::pair<std::uint32_t, TKorHistogram>>& finer,
@@ -143,13 +149,23 @@ void BindSharded(py::module_& m) {
               const FloatArray array = ToFloatVector(values, "values");
               std::vector<TKorKey> keys;
               for (const auto& [high, low] : bounds) keys.push_back({high, low});
+              std::vector<std::vector<Float>> split;
+              {
+                  py::gil_scoped_release release;
+                  split = SplitByRange(Span(array), keys);
+              }
               py::list parts;
-              for (const auto& part : SplitByRange(Span(array), keys)) parts.append(FromFloats(part));
+              for (const auto& part : split) parts.append(FromFloats(part));
               return parts;
           }, py::arg("values"), py::arg("bounds"));
     m.def("run_summary", [](py::handle values) {
               const FloatArray array = ToFloatVector(values, "values");
-              return py::bytes(TKorRunSummary::OfValues({array.data(), array.data() + array.size()}).Serialize());
+              std::string runs;
+              {
+                  py::gil_scoped_release release;
+                  runs = TKorRunSummary::OfValues({array.data(), array.data() + array.size()}).Serialize();
+              }
+              return py::bytes(runs);
           }, py::arg("values"));
     m.def("append_runs", [](const std::vector<std::string>& parts) {
               std::string merged;

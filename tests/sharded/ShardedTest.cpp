@@ -41,13 +41,12 @@ std::vector<KornumDescStats::TKorReportEntry> ShardedReport(const std::vector<st
     TKorRankSelection selection(summary.Count(), ReportRanks(summary.Count()), gatherLimit);
     while (!selection.Done()) {
         if (selection.Gathering()) {
-            std::vector<std::vector<Float>> gathered;
-            for (const TKorPrefixRequest& r : selection.GatherPrefixes()) {
-                gathered.emplace_back();
-                for (const auto& shard : shards) {
-                    const std::vector<Float> some = CollectPrefix(shard, r.Prefix, r.Bits);
-                    gathered.back().insert(gathered.back().end(), some.begin(), some.end());
-                }
+            const std::vector<TKorPrefixRequest> prefixes = selection.GatherPrefixes();
+            std::vector<std::vector<Float>> gathered(prefixes.size());
+            for (const auto& shard : shards) {
+                const std::vector<std::vector<Float>> some = CollectPrefixes(shard, prefixes);
+                for (std::size_t i = 0; i < prefixes.size(); ++i)
+                    gathered[i].insert(gathered[i].end(), some[i].begin(), some[i].end());
             }
             selection.Gathered(gathered);
         } else {
@@ -224,16 +223,34 @@ TEST(Keys, OrderOfKeysIsOrderOfValuesAndRoundTrips) {
 TEST(RunSummary, ModeFollowsTheRunsOfEqualNeighboursAcrossRanges) {
     Float mode = 0;
     // A tolerant run that spans two ranges: 1 and 1 + 2^-60 are the same value.
-    TKorRunSummary left = TKorRunSummary::OfValues({0.5L, 1});
-    left.Append(TKorRunSummary::OfValues({1 + 0x1p-60L, 2, 2 + 0x1p-55L}));
-    left.Append(TKorRunSummary::OfValues({}));
+    TKorRunSummary left = TKorRunSummary::OfValues(std::vector<Float>{0.5L, 1});
+    left.Append(TKorRunSummary::OfValues(std::vector<Float>{1 + 0x1p-60L, 2, 2 + 0x1p-55L}));
+    left.Append(TKorRunSummary::OfValues(std::vector<Float>{}));
     EXPECT_FALSE(left.Mode(mode));  // runs of two at 1 and at 2 tie
-    left.Append(TKorRunSummary::OfValues({2 + 0x1p-54L, 3}));
+    left.Append(TKorRunSummary::OfValues(std::vector<Float>{2 + 0x1p-54L, 3}));
     ASSERT_TRUE(left.Mode(mode));
     EXPECT_EQ(mode, 2 + 0x1p-54L);  // the last value of the longest run
-    EXPECT_TRUE(TKorRunSummary::OfValues({7}).Mode(mode));
+    EXPECT_TRUE(TKorRunSummary::OfValues(std::vector<Float>{7}).Mode(mode));
     EXPECT_EQ(mode, 7);
-    EXPECT_FALSE(TKorRunSummary::OfValues({1, 2, 3}).Mode(mode));
+    EXPECT_FALSE(TKorRunSummary::OfValues(std::vector<Float>{1, 2, 3}).Mode(mode));
+}
+
+// The runs come from a sort of the keys: by their 64 differing bits when they differ in
+// no more (one sign, nearby magnitudes), by whole keys otherwise (both signs, far apart).
+// The values lie farther apart than the tolerance that makes neighbours equal.
+TEST(RunSummary, FindsTheModeWhetherKeysDifferInMoreThan64BitsOrFewer) {
+    std::mt19937_64 rng(5);
+    for (const bool wide : {true, false}) {
+        std::vector<Float> values;
+        for (int k = 1; k <= 2000; ++k)
+            values.push_back(wide ? (k % 2 ? -1 : 1) * std::ldexp(Float(k), k % 900) : 1000 + std::ldexp(Float(k), -20));
+        const Float mode = values[777];
+        values.insert(values.end(), {mode, mode, values[5]});
+        std::shuffle(values.begin(), values.end(), rng);
+        Float found = 0;
+        ASSERT_TRUE(TKorRunSummary::OfValues(values).Mode(found)) << wide;
+        EXPECT_EQ(found, mode) << wide;
+    }
 }
 
 TEST(ShardedReport, EqualsTheSingleProcessReport) {
