@@ -44,18 +44,29 @@ Float ValueOf(TKorKey K) noexcept {
     return x;
 }
 
-std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values, const std::vector<TKorPrefixRequest>& Requests) {
-    std::vector<std::vector<std::uint64_t>> dense(Requests.size(), std::vector<std::uint64_t>(1 << 16));
+namespace {
+
+// Calls under(i, key, x) for each value x and each request i whose prefix its key starts
+// with, in one pass over the values.
+template <class Under>
+void ForEachUnderPrefix(std::span<const Float> values, const std::vector<TKorPrefixRequest>& requests, Under under) {
     std::vector<u128> prefixes;
-    for (const TKorPrefixRequest& r : Requests) prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
-    for (const Float& x : Values) {
+    for (const TKorPrefixRequest& r : requests) prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
+    for (const Float& x : values) {
         const u128 key = Wide(detail::KeyAt(&x));
-        for (std::size_t i = 0; i < Requests.size(); ++i) {
-            const int bits = Requests[i].Bits;
-            if (bits && (key >> (80 - bits)) != (prefixes[i] >> (80 - bits))) continue;
-            ++dense[i][NextBits(key, bits)];
+        for (std::size_t i = 0; i < requests.size(); ++i) {
+            const int bits = requests[i].Bits;
+            if (bits == 0 || (key >> (80 - bits)) == (prefixes[i] >> (80 - bits))) under(i, key, x);
         }
     }
+}
+
+}  // namespace
+
+std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values, const std::vector<TKorPrefixRequest>& Requests) {
+    std::vector<std::vector<std::uint64_t>> dense(Requests.size(), std::vector<std::uint64_t>(1 << 16));
+    ForEachUnderPrefix(Values, Requests,
+                       [&](std::size_t i, u128 key, const Float&) { ++dense[i][NextBits(key, Requests[i].Bits)]; });
     std::vector<TKorHistogram> result(Requests.size());
     for (std::size_t i = 0; i < Requests.size(); ++i)
         for (std::uint32_t b = 0; b < dense[i].size(); ++b)
@@ -82,15 +93,7 @@ void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogr
 std::vector<std::vector<Float>> CollectPrefixes(std::span<const Float> Values,
                                                 const std::vector<TKorPrefixRequest>& Prefixes) {
     std::vector<std::vector<Float>> result(Prefixes.size());
-    std::vector<u128> prefixes;
-    for (const TKorPrefixRequest& r : Prefixes) prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
-    for (const Float& x : Values) {
-        const u128 key = Wide(detail::KeyAt(&x));
-        for (std::size_t i = 0; i < Prefixes.size(); ++i) {
-            const int bits = Prefixes[i].Bits;
-            if (bits == 0 || (key >> (80 - bits)) == (prefixes[i] >> (80 - bits))) result[i].push_back(x);
-        }
-    }
+    ForEachUnderPrefix(Values, Prefixes, [&](std::size_t i, u128, const Float& x) { result[i].push_back(x); });
     return result;
 }
 
