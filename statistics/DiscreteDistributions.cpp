@@ -8,6 +8,7 @@
 
 #include "core/detail/BaseLibraryInterface.hpp"
 #include "core/detail/ExtendedPrecision.hpp"
+#include "statistics/detail/BinomialTails.hpp"
 #include "statistics/detail/PoissonTails.hpp"
 
 #include <algorithm>
@@ -117,6 +118,23 @@ Float BinomialAtMost(Float P, Cardinal N, Count K) {
     const Float logDensity = (a - 1) * std::log(q.hi) + (b - 1) * std::log(P) -
                              (LnGamma(a) + LnGamma(b) - LnGamma(a + b));
     return value + q.lo * std::exp(logDensity);
+}
+
+// Beyond this many terms the sums of BinomialTails give way to the incomplete beta
+// function, whose cost does not grow with N p q.
+constexpr Float MaxBinomialSumTerms = 400;
+
+// P(X > K) when upper, else P(X <= K): the CDF and the quantile search share it, so that
+// a quantile is consistent with the tail it inverts.
+Float BinomialTail(Float P, Cardinal N, Count K, bool upper) {
+    if (K >= N || P == 0) return upper ? 0 : 1;
+    if (P == 1) return upper ? 1 : 0;
+    const Float n = Float(N), k = Float(K), mean = n * P;
+    if (detail::RatioSeriesLength(k, mean, std::sqrt(mean * (1 - P))) <= MaxBinomialSumTerms) {
+        const detail::BinomialTailPair tails = detail::BinomialTails(n, k, P);
+        return upper ? tails.upper : tails.lower;
+    }
+    return upper ? BinomialAbove(P, N, K) : BinomialAtMost(P, N, K);
 }
 
 // ---- Quantiles --------------------------------------------------------------------------
@@ -240,21 +258,20 @@ Float PoissonBetween(Float Lambda, Cardinal X1, Cardinal X2) {
 
 Float BinomialLower(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
-    return BinomialAtMost(P, N, K);
+    return BinomialTail(P, N, K, false);
 }
 
 Float BinomialUpper(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
-    return BinomialAbove(P, N, K);
+    return BinomialTail(P, N, K, true);
 }
 
 Float BinomialPoint(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
     if (K > N) return 0;
     if (P == 0 || P == 1) return K == (P == 0 ? 0 : N) ? 1 : 0;
-    namespace special = Kornummath::special;
-    const special::TwoFloat q = special::TwoSum(1, -P);  // 1 - P exactly
-    return special::BetaDensity({P, 0}, q, Float(K) + 1, Float(N - K) + 1) / (Float(N) + 1);
+    const Kornummath::special::TwoFloat q = Kornummath::special::TwoSum(1, -P);  // 1 - P exactly
+    return detail::ScaledExp(detail::BinomialPointExponent(Float(N), Float(K), P, q), 1);
 }
 
 Float PoissonPoint(Float Lambda, Cardinal K) {
@@ -278,7 +295,7 @@ Cardinal InvBinomialLess(Float P, Cardinal N, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 0) return 0;
     return BinomialQuantile(P, N, NormalQuantileAt(Alpha, false),
-                            [&](Count k) { return BinomialAtMost(P, N, k) >= Alpha; });
+                            [&](Count k) { return BinomialTail(P, N, k, false) >= Alpha; });
 }
 
 Cardinal InvBinomialGreater(Float P, Cardinal N, Float Alpha) {
@@ -286,7 +303,7 @@ Cardinal InvBinomialGreater(Float P, Cardinal N, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 1) return 0;
     return BinomialQuantile(P, N, NormalQuantileAt(Alpha, true),
-                            [&](Count k) { return BinomialAbove(P, N, k) <= Alpha; });
+                            [&](Count k) { return BinomialTail(P, N, k, true) <= Alpha; });
 }
 
 Cardinal InvPoissonLess(Float Lambda, Float Alpha) {
