@@ -39,9 +39,10 @@ inline TwoFloat BinomialPointExponent(Float n, Float k, Float p, TwoFloat q) {
     if (n < LogFactorialTableSize) {
         // ln n! - ln k! - ln m! + k ln p + m ln q: the parts reach n ln n, below 2^15, so
         // the cancellation costs nothing in two Floats.
-        const TwoFloat logQ = CachedLog(q.hi) + TwoFloat{q.lo / q.hi, 0};
-        const auto logFactorial = [](Float j) { return LogFactorialTable::At(std::uint32_t(j)); };
-        return (logFactorial(n) - (logFactorial(k) + logFactorial(m))) + (CachedLog(p) * k + logQ * m);
+        const LogPair logs = CachedLogs(p, q.hi);
+        const LogFactorialTable& logFactorial = LogFactorialTable::UpTo(std::uint32_t(n));
+        return (logFactorial[n] - (logFactorial[k] + logFactorial[m])) +
+               (logs.first * k + (logs.second + TwoFloat{q.lo / q.hi, 0}) * m);
     }
     const TwoFloat np = special::TwoProduct(n, p);
     const TwoFloat nqHigh = special::TwoProduct(n, q.hi);

@@ -1,15 +1,16 @@
 // ln k! in two Floats for whole k below LogFactorialTableSize, from a table that is
 // built on first use, 256 entries at a time, as running sums of ln j in two Floats
-// (absolute error below 2^-100); and ln x in two Floats through a small per-thread
-// cache, for the parameters of a distribution that is evaluated at many counts. Both
-// give the same values however often and in whatever order they are asked. Internal to
-// the library (not installed).
+// (absolute error below 2^-100); and the logarithms of a distribution's parameters
+// through a per-thread cache, for a distribution evaluated at many counts. Both give
+// the same values however often and in whatever order they are asked. Internal to the
+// library (not installed).
 #pragma once
 
 #include "core/detail/ExtendedPrecision.hpp"
 
 #include <kornum/Kornumglobals.h>
 
+#include <atomic>
 #include <cstdint>
 #include <mutex>
 
@@ -22,11 +23,13 @@ inline constexpr std::uint32_t LogFactorialTableSize = 4096;
 
 class LogFactorialTable {
 public:
-    static TwoFloat At(std::uint32_t k) {
+    // The table, complete at least up to ln last! (last below LogFactorialTableSize).
+    static const LogFactorialTable& UpTo(std::uint32_t last) {
         static LogFactorialTable table;
-        table.Build(k / Chunk);
-        return table.values_[k];
+        if (last >= table.complete_.load(std::memory_order_acquire)) table.Build(last / Chunk);
+        return table;
     }
+    TwoFloat operator[](Float k) const { return values_[std::uint32_t(k)]; }
 
 private:
     static constexpr std::uint32_t Chunk = 256;
@@ -43,26 +46,30 @@ private:
                 sum = values_[j - 1];
             }
             for (; j < (c + 1) * Chunk; ++j) values_[j] = sum = sum + Kornummath::special::Log(Float(j));
+            std::uint32_t end = complete_.load(std::memory_order_relaxed);
+            while (end < j && !complete_.compare_exchange_weak(end, j, std::memory_order_release)) {
+            }
         });
     }
 
     TwoFloat values_[LogFactorialTableSize];
     std::once_flag built_[LogFactorialTableSize / Chunk];
+    std::atomic<std::uint32_t> complete_{0};  // entries below it are written
 };
 
-// Kornummath::special::Log(x), remembered for the last four arguments of this thread.
-inline TwoFloat CachedLog(Float x) {
+struct LogPair {
+    TwoFloat first, second;
+};
+
+// Kornummath::special::Log of x and of y, remembered for the last pair this thread asked.
+inline LogPair CachedLogs(Float x, Float y) {
     struct Entry {
-        Float x;
-        TwoFloat log;
+        Float x, y;
+        LogPair logs;
     };
-    thread_local Entry entries[4] = {};  // ln 0 is never asked for
-    thread_local unsigned next = 0;
-    for (const Entry& entry : entries)
-        if (entry.x == x) return entry.log;
-    Entry& entry = entries[next++ % 4];
-    entry = {x, Kornummath::special::Log(x)};
-    return entry.log;
+    thread_local Entry last{0, 0, {}};  // ln 0 is never asked for
+    if (last.x != x || last.y != y) last = {x, y, {Kornummath::special::Log(x), Kornummath::special::Log(y)}};
+    return last.logs;
 }
 
 }  // namespace KornumStatistics::detail

@@ -63,7 +63,8 @@ TwoFloat PoissonDeviance(Float k, Float lambda, LogK logK) {
 inline TwoFloat PoissonPointExponent(Float k, Float lambda) {
     namespace special = Kornummath::special;
     if (k < LogFactorialTableSize)
-        return CachedLog(lambda) * k - (TwoFloat{lambda, 0} + LogFactorialTable::At(std::uint32_t(k)));
+        return CachedLogs(lambda, lambda).first * k -
+               (TwoFloat{lambda, 0} + LogFactorialTable::UpTo(std::uint32_t(k))[k]);
     const TwoFloat logK = special::Log(k);
     return -(Deviance(k, {lambda, 0}) + logK * 0.5L + special::LnSqrtTwoPi +
              TwoFloat{LogFactorialRemainder(k), 0});
