@@ -129,8 +129,9 @@ constexpr Float MaxBinomialSumTerms = 400;
 Float BinomialTail(Float P, Cardinal N, Count K, bool upper) {
     if (K >= N || P == 0) return upper ? 0 : 1;
     if (P == 1) return upper ? 1 : 0;
-    const Float n = Float(N), k = Float(K), mean = n * P;
-    if (detail::RatioSeriesLength(k, mean, std::sqrt(mean * (1 - P))) <= MaxBinomialSumTerms) {
+    const Float n = Float(N), k = Float(K), mean = n * P, variance = mean * (1 - P);
+    // Up to a variance of 1600 even the series from the centre, 9.6 deviations, is short.
+    if (variance <= 1600 || detail::RatioSeriesLength(k, mean, std::sqrt(variance)) <= MaxBinomialSumTerms) {
         const detail::BinomialTailPair tails = detail::BinomialTails(n, k, P);
         return upper ? tails.upper : tails.lower;
     }
