@@ -143,6 +143,35 @@ TEST(AccurateTails, SupportEndsInfinitiesAndComplements) {
     }
 }
 
+TEST(AccurateTails, DiscreteValuesDoNotDependOnWhatWasAskedBefore) {
+    // The logarithms of the last parameters are kept per thread: the same arguments give
+    // the same bits whether they come first, after other parameters or repeated, here
+    // with 0.3 and 0.7 (whose 1 - P swap roles) and means that differ in the last bit.
+    struct Call {
+        int kind;
+        Float parameter;
+        Cardinal count;
+    };
+    const Float near40 = std::nextafter(40.0L, 41.0L);
+    const std::vector<Call> calls{{0, 0.3L, 20}, {1, 0.7L, 80}, {0, 0.7L, 20}, {2, 40, 35},
+                                  {2, near40, 35}, {0, 0.3L, 999}, {1, 0.3L, 20}, {2, 40, 4000}};
+    const auto evaluate = [](const Call& c) {
+        switch (c.kind) {
+            case 0: return BinomialLower(c.parameter, 1000, c.count);
+            case 1: return BinomialUpper(c.parameter, 100, c.count);
+            default: return PoissonUpper(c.parameter, c.count);
+        }
+    };
+    std::vector<Float> forward, backward(calls.size());
+    for (const Call& c : calls) forward.push_back(evaluate(c));
+    for (std::size_t i = calls.size(); i-- > 0;) backward[i] = evaluate(calls[i]);
+    for (std::size_t i = 0; i < calls.size(); ++i) {
+        EXPECT_EQ(forward[i], backward[i]) << i;
+        EXPECT_EQ(forward[i], evaluate(calls[i])) << i;
+    }
+    EXPECT_NE(forward[3], forward[4]);  // the cache told the two means apart
+}
+
 TEST(AccurateTails, ChecksInOrder) {
     EXPECT_TRUE(Raises([] { NormalDistLower(0, 0, 1); }, rsStdDev));
     EXPECT_TRUE(Raises([] { NormalDistUpper(0, NaN, 1); }, rsStdDev));
