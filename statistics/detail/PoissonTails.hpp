@@ -103,7 +103,9 @@ inline PoissonTailPair PoissonTails(Float lambda, Float k) {
     }
     const TwoFloat exponent = PoissonPointExponent(k, lambda);
     if (a >= lambda) {  // the ratios lambda / (k + n) fall from at most 1
-        const Float upper = ScaledExp(exponent, RatioSeries<0, 1>(1, k + 1, {lambda, 0}));
+        // The series underflows to 0 for a subnormal lambda, and with it the tail.
+        const Float sum = RatioSeries<0, 1>(1, k + 1, {lambda, 0});
+        const Float upper = sum > 0 ? ScaledExp(exponent, sum) : 0;
         return {1 - upper, upper};
     }
     // The ratios (k - n + 1) / lambda, with 1 / lambda in two Floats.

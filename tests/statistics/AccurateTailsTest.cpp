@@ -16,6 +16,7 @@ namespace {
 
 constexpr Float NaN = std::numeric_limits<Float>::quiet_NaN();
 constexpr Float Infinity = std::numeric_limits<Float>::infinity();
+constexpr Float Tiny = std::numeric_limits<Float>::denorm_min();
 
 struct Reference {
     std::string kind;
@@ -127,7 +128,12 @@ TEST(AccurateTails, SupportEndsInfinitiesAndComplements) {
                           {BinomialUpper(1, 5, 4), 1},
                           {BinomialLower(1, 5, 4), 0},
                           {PoissonLower(Infinity, 7), 0},
-                          {PoissonUpper(Infinity, 7), 1}}));
+                          {PoissonUpper(Infinity, 7), 1},
+                          // The upper tails underflow whole, series and all.
+                          {PoissonUpper(Tiny, 4095), 0},
+                          {PoissonLower(Tiny, 100000), 1},
+                          {BinomialUpper(Tiny, 100, 3), 0},
+                          {BinomialUpper(Tiny, 100, 0), 100 * Tiny}}));
     EXPECT_TRUE(std::isnan(NormalLower(NaN)) && std::isnan(LogNormalUpper(0, 1, NaN)) && std::isnan(NormalZ(NaN)));
     // The two tails of a point add up to 1, whichever of them was summed directly.
     std::mt19937_64 random(7);
