@@ -68,7 +68,10 @@ inline LogPair CachedLogs(Float x, Float y) {
         LogPair logs;
     };
     thread_local Entry last{0, 0, {}};  // ln 0 is never asked for
-    if (last.x != x || last.y != y) last = {x, y, {Kornummath::special::Log(x), Kornummath::special::Log(y)}};
+    if (last.x != x || last.y != y) {
+        const TwoFloat logX = Kornummath::special::Log(x);
+        last = {x, y, {logX, y == x ? logX : Kornummath::special::Log(y)}};
+    }
     return last.logs;
 }
 
