@@ -132,7 +132,7 @@ Float BinomialTail(Float P, Cardinal N, Count K, bool upper) {
     const Float n = Float(N), k = Float(K), mean = n * P, variance = mean * (1 - P);
     // Up to a variance of 1600 even the series from the centre, 9.6 deviations, is short.
     if (variance <= 1600 || detail::RatioSeriesLength(k, mean, std::sqrt(variance)) <= MaxBinomialSumTerms) {
-        const detail::BinomialTailPair tails = detail::BinomialTails(n, k, P);
+        const detail::BinomialTailPair tails = detail::BinomialTails(Cardinal(K), N, P);
         return upper ? tails.upper : tails.lower;
     }
     return upper ? BinomialAbove(P, N, K) : BinomialAtMost(P, N, K);
@@ -271,24 +271,23 @@ Float BinomialPoint(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
     if (K > N) return 0;
     if (P == 0 || P == 1) return K == (P == 0 ? 0 : N) ? 1 : 0;
-    const Kornummath::special::TwoFloat q = Kornummath::special::TwoSum(1, -P);  // 1 - P exactly
-    return detail::ScaledExp(detail::BinomialPointExponent(Float(N), Float(K), P, q), 1);
+    return detail::ScaledExp(detail::BinomialPointExponent(K, N, detail::BinomialConstantsAt(P)), 1);
 }
 
 Float PoissonPoint(Float Lambda, Cardinal K) {
     CheckPoissonMean(Lambda);
     if (std::isinf(Lambda)) return 0;
-    return detail::ScaledExp(detail::PoissonPointExponent(Float(K), Lambda), 1);
+    return detail::ScaledExp(detail::PoissonPointExponent(K, detail::PoissonConstantsAt(Lambda)), 1);
 }
 
 Float PoissonLower(Float Lambda, Cardinal K) {
     CheckPoissonMean(Lambda);
-    return detail::PoissonTails(Lambda, Float(K)).lower;
+    return detail::PoissonTails(Lambda, K).lower;
 }
 
 Float PoissonUpper(Float Lambda, Cardinal K) {
     CheckPoissonMean(Lambda);
-    return detail::PoissonTails(Lambda, Float(K)).upper;
+    return detail::PoissonTails(Lambda, K).upper;
 }
 
 Cardinal InvBinomialLess(Float P, Cardinal N, Float Alpha) {
@@ -312,7 +311,7 @@ Cardinal InvPoissonLess(Float Lambda, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 0) return 0;
     return PoissonQuantile(Lambda, NormalQuantileAt(Alpha, false),
-                           [&](Count k) { return detail::PoissonTails(Lambda, Float(k)).lower >= Alpha; });
+                           [&](Count k) { return detail::PoissonTails(Lambda, Cardinal(k)).lower >= Alpha; });
 }
 
 Cardinal InvPoissonGreater(Float Lambda, Float Alpha) {
@@ -320,7 +319,7 @@ Cardinal InvPoissonGreater(Float Lambda, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 1) return 0;
     return PoissonQuantile(Lambda, NormalQuantileAt(Alpha, true),
-                           [&](Count k) { return detail::PoissonTails(Lambda, Float(k)).upper <= Alpha; });
+                           [&](Count k) { return detail::PoissonTails(Lambda, Cardinal(k)).upper <= Alpha; });
 }
 
 }  // namespace KornumStatistics

@@ -27,26 +27,58 @@
 #include <kornum/Kornumglobals.h>
 
 #include <cmath>
+#include <cstdint>
 
 namespace KornumStatistics::detail {
 
-// ln b(k) in two Floats for whole 0 <= k <= n, 0 < p < 1 and q = 1 - p exactly.
-inline TwoFloat BinomialPointExponent(Float n, Float k, Float p, TwoFloat q) {
+// What the tails at one p share, 0 < p < 1, remembered for the last p of this thread:
+// the tails of one distribution are mostly asked for at many counts.
+struct BinomialConstants {
+    Float p = 0;  // never a valid p: nothing is remembered yet
+    TwoFloat q{0, 0};  // 1 - p exactly
+    Multiplier logP, logQ;
+    TwoFloat down{0, 0}, downSquared{0, 0};  // q / p and its square: the ratios below the mode
+    TwoFloat up{0, 0}, upSquared{0, 0};      // p / q and its square: above it
+};
+
+// Kept out of line, so that the callers stay small enough to be inlined themselves.
+[[gnu::noinline, gnu::cold]] inline void Refresh(BinomialConstants& c, Float p) {
     namespace special = Kornummath::special;
-    if (k == 0) return special::Log(q) * n;
-    if (k == n) return special::Log(p) * n;
-    const Float m = n - k;
-    if (n < LogFactorialTableSize) {
+    const TwoFloat q = special::TwoSum(1, -p);
+    const TwoFloat down = q / TwoFloat{p, 0}, up = TwoFloat{p, 0} / q;
+    c.p = p;
+    c.q = q;
+    c.logP = Multiplier(special::Log(p));
+    c.logQ = Multiplier(special::Log(q));
+    c.down = down;
+    c.downSquared = down * down;
+    c.up = up;
+    c.upSquared = up * up;
+}
+
+inline const BinomialConstants& BinomialConstantsAt(Float p) {
+    thread_local BinomialConstants last;
+    if (last.p != p) Refresh(last, p);
+    return last;
+}
+
+// ln b(k) in two Floats for 0 <= k <= n. The counts come as integers: converting a
+// Float to one would cost two changes of the x87 control word.
+inline TwoFloat BinomialPointExponent(std::uint32_t count, std::uint32_t trials, const BinomialConstants& c) {
+    namespace special = Kornummath::special;
+    const Float n = trials, k = count, m = trials - count;
+    if (count == 0) return c.logQ.Times(n);
+    if (count == trials) return c.logP.Times(n);
+    if (trials < LogFactorialTableSize) {
         // ln n! - ln k! - ln m! + k ln p + m ln q: the parts reach n ln n, below 2^15, so
         // the cancellation costs nothing in two Floats.
-        const LogPair logs = CachedLogs(p, q.hi);
-        const LogFactorialTable& logFactorial = LogFactorialTable::UpTo(std::uint32_t(n));
-        return (logFactorial[n] - (logFactorial[k] + logFactorial[m])) +
-               (logs.first * k + (logs.second + TwoFloat{q.lo / q.hi, 0}) * m);
+        const LogFactorialTable& logFactorial = LogFactorialTable::UpTo(trials);
+        return (logFactorial[trials] - (logFactorial[count] + logFactorial[trials - count])) +
+               (c.logP.Times(k) + c.logQ.Times(m));
     }
-    const TwoFloat np = special::TwoProduct(n, p);
-    const TwoFloat nqHigh = special::TwoProduct(n, q.hi);
-    const TwoFloat nq = special::FastTwoSum(nqHigh.hi, nqHigh.lo + n * q.lo);
+    const TwoFloat np = special::TwoProduct(n, c.p);
+    const TwoFloat nqHigh = special::TwoProduct(n, c.q.hi);
+    const TwoFloat nq = special::FastTwoSum(nqHigh.hi, nqHigh.lo + n * c.q.lo);
     const Float remainders = LogFactorialRemainder(n) - LogFactorialRemainder(k) - LogFactorialRemainder(m);
     // k (n - k) is exact below 2^64.
     const TwoFloat spread = TwoFloat{k * m, 0} / TwoFloat{n, 0};
@@ -59,18 +91,18 @@ struct BinomialTailPair {
     Float upper;  // P(X > k)
 };
 
-// Both tails at a whole k < n for 0 < p < 1.
-inline BinomialTailPair BinomialTails(Float n, Float k, Float p) {
-    namespace special = Kornummath::special;
-    const TwoFloat q = special::TwoSum(1, -p);
-    const TwoFloat exponent = BinomialPointExponent(n, k, p, q);
+// Both tails at k < n for 0 < p < 1.
+inline BinomialTailPair BinomialTails(std::uint32_t count, std::uint32_t trials, Float p) {
+    const BinomialConstants& c = BinomialConstantsAt(p);
+    const TwoFloat exponent = BinomialPointExponent(count, trials, c);
+    const Float n = trials, k = count;
     if (k + 1 <= (n + 1) * p) {  // the ratios r(j) fall from r(k) <= 1
-        const Float sum = 1 + RatioSeries<1, 1>(k, n - k + 1, q / TwoFloat{p, 0});
+        const Float sum = 1 + RatioSeries<1, 1>(k, n - k + 1, c.down, c.downSquared);
         const Float lower = ScaledExp(exponent, sum);
         return {lower, 1 - lower};
     }
     // s(k + 1) < 1 here; it may underflow for a tiny p, and with it the whole tail.
-    const Float sum = RatioSeries<1, 1>(n - k, k + 1, TwoFloat{p, 0} / q);
+    const Float sum = RatioSeries<1, 1>(n - k, k + 1, c.up, c.upSquared);
     const Float upper = sum > 0 ? ScaledExp(exponent, sum) : 0;
     return {1 - upper, upper};
 }

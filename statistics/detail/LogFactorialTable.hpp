@@ -1,9 +1,6 @@
 // ln k! in two Floats for whole k below LogFactorialTableSize, from a table that is
 // built on first use, 256 entries at a time, as running sums of ln j in two Floats
-// (absolute error below 2^-100); and the logarithms of a distribution's parameters
-// through a per-thread cache, for a distribution evaluated at many counts. Both give
-// the same values however often and in whatever order they are asked. Internal to the
-// library (not installed).
+// (absolute error below 2^-100). Internal to the library (not installed).
 #pragma once
 
 #include "core/detail/ExtendedPrecision.hpp"
@@ -29,7 +26,7 @@ public:
         if (last >= table.complete_.load(std::memory_order_acquire)) table.Build(last / Chunk);
         return table;
     }
-    TwoFloat operator[](Float k) const { return values_[std::uint32_t(k)]; }
+    TwoFloat operator[](std::uint32_t k) const { return values_[k]; }
 
 private:
     static constexpr std::uint32_t Chunk = 256;
@@ -56,23 +53,5 @@ private:
     std::once_flag built_[LogFactorialTableSize / Chunk];
     std::atomic<std::uint32_t> complete_{0};  // entries below it are written
 };
-
-struct LogPair {
-    TwoFloat first, second;
-};
-
-// Kornummath::special::Log of x and of y, remembered for the last pair this thread asked.
-inline LogPair CachedLogs(Float x, Float y) {
-    struct Entry {
-        Float x, y;
-        LogPair logs;
-    };
-    thread_local Entry last{0, 0, {}};  // ln 0 is never asked for
-    if (last.x != x || last.y != y) {
-        const TwoFloat logX = Kornummath::special::Log(x);
-        last = {x, y, {logX, y == x ? logX : Kornummath::special::Log(y)}};
-    }
-    return last.logs;
-}
 
 }  // namespace KornumStatistics::detail

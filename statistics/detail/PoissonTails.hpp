@@ -27,6 +27,7 @@
 #include <kornum/Kornumglobals.h>
 
 #include <cmath>
+#include <cstdint>
 
 namespace KornumStatistics::detail {
 
@@ -59,14 +60,42 @@ TwoFloat PoissonDeviance(Float k, Float lambda, LogK logK) {
     return (logK() - special::Log(lambda)) * k - difference;
 }
 
-// ln p(k) in two Floats, for a whole k >= 0 and a finite lambda > 0.
-inline TwoFloat PoissonPointExponent(Float k, Float lambda) {
+// What the tails at one lambda share, remembered for the last lambda of this thread.
+struct PoissonConstants {
+    Float lambda = 0;  // never a valid mean: nothing is remembered yet
+    Multiplier logLambda;
+    TwoFloat inverse{0, 0}, inverseSquared{0, 0};  // 1 / lambda and its square
+    TwoFloat square{0, 0};                         // lambda^2
+};
+
+// Kept out of line, so that the callers stay small enough to be inlined themselves.
+[[gnu::noinline, gnu::cold]] inline void Refresh(PoissonConstants& c, Float lambda) {
     namespace special = Kornummath::special;
-    if (k < LogFactorialTableSize)
-        return CachedLogs(lambda, lambda).first * k -
-               (TwoFloat{lambda, 0} + LogFactorialTable::UpTo(std::uint32_t(k))[k]);
+    const TwoFloat inverse = TwoFloat{1, 0} / TwoFloat{lambda, 0};
+    c.lambda = lambda;
+    c.logLambda = Multiplier(special::Log(lambda));
+    c.inverse = inverse;
+    c.inverseSquared = inverse * inverse;
+    c.square = TwoFloat{lambda, 0} * TwoFloat{lambda, 0};
+}
+
+inline const PoissonConstants& PoissonConstantsAt(Float lambda) {
+    thread_local PoissonConstants last;
+    if (last.lambda != lambda) Refresh(last, lambda);
+    return last;
+}
+
+// ln p(k) in two Floats, for k >= 0 and a finite lambda > 0. Inlined: a TwoFloat
+// returned through memory costs two slow stores and loads of the 80-bit format. The
+// count comes as an integer: converting a Float to one would cost two changes of the
+// x87 control word.
+[[gnu::always_inline]] inline TwoFloat PoissonPointExponent(std::uint32_t count, const PoissonConstants& c) {
+    namespace special = Kornummath::special;
+    const Float k = count;
+    if (count < LogFactorialTableSize)
+        return c.logLambda.Times(k) - (TwoFloat{c.lambda, 0} + LogFactorialTable::UpTo(count)[count]);
     const TwoFloat logK = special::Log(k);
-    return -(Deviance(k, {lambda, 0}) + logK * 0.5L + special::LnSqrtTwoPi +
+    return -(Deviance(k, {c.lambda, 0}) + logK * 0.5L + special::LnSqrtTwoPi +
              TwoFloat{LogFactorialRemainder(k), 0});
 }
 
@@ -91,25 +120,26 @@ inline PoissonTailPair PoissonTailsNearCentre(Float lambda, Float a, TwoFloat de
     return {1 - upper, upper};
 }
 
-// Both tails at a whole k >= 0 for lambda > 0 (infinite included).
-inline PoissonTailPair PoissonTails(Float lambda, Float k) {
+// Both tails at k >= 0 for lambda > 0 (infinite included).
+inline PoissonTailPair PoissonTails(Float lambda, std::uint32_t count) {
     if (std::isinf(lambda)) return {0, 1};
-    const Float a = k + 1;
+    const Float k = count, a = k + 1;
     if (a >= GammaExpansionMinShape) {
         const TwoFloat deviance = PoissonDeviance(a, lambda, [a] { return Kornummath::special::Log(a); });
         // |eta| <= 1, that is a eta^2 / 2 <= a / 2.
         if (deviance.hi <= a * (GammaExpansionMaxEta * GammaExpansionMaxEta) / 2)
             return PoissonTailsNearCentre(lambda, a, deviance);
     }
-    const TwoFloat exponent = PoissonPointExponent(k, lambda);
+    const PoissonConstants& c = PoissonConstantsAt(lambda);
+    const TwoFloat exponent = PoissonPointExponent(count, c);
     if (a >= lambda) {  // the ratios lambda / (k + n) fall from at most 1
         // The series underflows to 0 for a subnormal lambda, and with it the tail.
-        const Float sum = RatioSeries<0, 1>(1, k + 1, {lambda, 0});
+        const Float sum = RatioSeries<0, 1>(1, k + 1, {lambda, 0}, c.square);
         const Float upper = sum > 0 ? ScaledExp(exponent, sum) : 0;
         return {1 - upper, upper};
     }
     // The ratios (k - n + 1) / lambda, with 1 / lambda in two Floats.
-    const Float sum = 1 + RatioSeries<1, 0>(k, 1, TwoFloat{1, 0} / TwoFloat{lambda, 0});
+    const Float sum = 1 + RatioSeries<1, 0>(k, 1, c.inverse, c.inverseSquared);
     const Float lower = ScaledExp(exponent, sum);
     return {lower, 1 - lower};
 }

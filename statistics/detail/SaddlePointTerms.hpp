@@ -27,6 +27,24 @@ inline TwoFloat Deviance(Float k, TwoFloat mean) {
     return log * k + (mean - TwoFloat{k, 0});
 }
 
+// A TwoFloat with its high part split in advance into halves of 32 bits, for products
+// with whole numbers below 2^32: both products of a half are then exact, and the
+// product takes four operations instead of a TwoFloat * Float, whose value it equals
+// bit for bit.
+struct Multiplier {
+    TwoFloat value{0, 0};
+    TwoFloat halves{0, 0};
+
+    Multiplier() = default;
+    explicit Multiplier(TwoFloat x) : value(x), halves(Kornummath::special::Split(x.hi)) {}
+
+    TwoFloat Times(Float whole) const {
+        const Float product = value.hi * whole;
+        return Kornummath::special::FastTwoSum(
+            product, ((halves.hi * whole - product) + halves.lo * whole) + value.lo * whole);
+    }
+};
+
 // e^exponent times a factor s > 0; near the underflow threshold the factor enters the
 // exponent, so that a tail that is still normal is not built from a subnormal point.
 inline Float ScaledExp(TwoFloat exponent, Float s) {
@@ -37,7 +55,8 @@ inline Float ScaledExp(TwoFloat exponent, Float s) {
 
 // The sum over i >= 1 of the products of the first i ratios c top / bottom, with top
 // falling by TopStep and bottom rising by BottomStep from ratio to ratio (each step 0
-// or 1), until a term is negligible or top reaches 0. The ratios must not rise.
+// or 1), until a term is negligible or top reaches 0; c2 = c * c. The ratios must not
+// rise.
 //
 // Two terms a step: the second is the first's predecessor times c^2 and
 // top (top - TopStep) / (bottom (bottom + BottomStep)), whose products are exact, so
@@ -46,8 +65,7 @@ inline Float ScaledExp(TwoFloat exponent, Float s) {
 // term. The sum is compensated: a slowly falling series adds a few hundred terms, and
 // the half ulps of the sum lost in each addition would otherwise grow to several ulps.
 template <int TopStep, int BottomStep>
-inline Float RatioSeries(Float top, Float bottom, TwoFloat c) {
-    const TwoFloat c2 = c * c;
+inline Float RatioSeries(Float top, Float bottom, TwoFloat c, TwoFloat c2) {
     Float term = 1, sum = 0, lost = 0;
     const auto add = [&](Float x) {
         const Float y = x - lost, next = sum + y;
