@@ -1,7 +1,7 @@
 // What the binomial and Poisson tails at whole counts share: the deviance and the
 // exponential of a point probability's logarithm in two Floats, and the series of
-// products of term ratios that turn a point into a tail. Internal to
-// the library (not installed).
+// products of term ratios that turn a point into a tail. Internal to the library (not
+// installed).
 #pragma once
 
 #include "core/detail/ExtendedPrecision.hpp"
