@@ -271,7 +271,9 @@ Float BinomialPoint(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
     if (K > N) return 0;
     if (P == 0 || P == 1) return K == (P == 0 ? 0 : N) ? 1 : 0;
-    return detail::ScaledExp(detail::BinomialPointExponent(K, N, detail::BinomialConstantsAt(P)), 1);
+    const detail::BinomialConstants& c = detail::BinomialConstantsAt(P);
+    if (K == 0 || K == N) return detail::BinomialEndPoint(K == N, Float(N), c);
+    return detail::ScaledExp(detail::BinomialPointExponent(K, N, c), 1);
 }
 
 Float PoissonPoint(Float Lambda, Cardinal K) {

@@ -86,6 +86,15 @@ inline TwoFloat BinomialPointExponent(std::uint32_t count, std::uint32_t trials,
            (special::Log(spread) * 0.5L + special::LnSqrtTwoPi);
 }
 
+// b(0) = q^n, or b(n) = p^n when last, as powers: exact where the result is (1/2 to a
+// small power, say), where the exponential of n ln p would round twice. The low part
+// of q enters as (1 + q.lo / q.hi)^n = exp(x), x = n q.lo / q.hi below 2^-32 in size.
+inline Float BinomialEndPoint(bool last, Float n, const BinomialConstants& c) {
+    if (last) return std::pow(c.p, n);
+    const Float power = std::pow(c.q.hi, n), x = n * (c.q.lo / c.q.hi);
+    return power + power * (x + x * x / 2);
+}
+
 struct BinomialTailPair {
     Float lower;  // P(X <= k)
     Float upper;  // P(X > k)
@@ -97,8 +106,9 @@ inline BinomialTailPair BinomialTails(std::uint32_t count, std::uint32_t trials,
     const TwoFloat exponent = BinomialPointExponent(count, trials, c);
     const Float n = trials, k = count;
     if (k + 1 <= (n + 1) * p) {  // the ratios r(j) fall from r(k) <= 1
-        const Float sum = 1 + RatioSeries<1, 1>(k, n - k + 1, c.down, c.downSquared);
-        const Float lower = ScaledExp(exponent, sum);
+        // At k = 0 the lower tail is b(0) itself, the same value as BinomialPoint.
+        const Float lower = count == 0 ? BinomialEndPoint(false, n, c)
+                                       : ScaledExp(exponent, 1 + RatioSeries<1, 1>(k, n - k + 1, c.down, c.downSquared));
         return {lower, 1 - lower};
     }
     // s(k + 1) < 1 here; it may underflow for a tiny p, and with it the whole tail.

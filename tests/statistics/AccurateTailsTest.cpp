@@ -133,7 +133,11 @@ TEST(AccurateTails, SupportEndsInfinitiesAndComplements) {
                           {PoissonUpper(Tiny, 4095), 0},
                           {PoissonLower(Tiny, 100000), 1},
                           {BinomialUpper(Tiny, 100, 3), 0},
-                          {BinomialUpper(Tiny, 100, 0), 100 * Tiny}}));
+                          {BinomialUpper(Tiny, 100, 0), 100 * Tiny},
+                          // Powers at the ends of the support, exact where the result is.
+                          {BinomialPoint(0.5L, 2, 2), 0.25L},
+                          {BinomialLower(0.5L, 10, 0), 0x1p-10L},
+                          {BinomialPoint(0.25L, 4, 0), 81.0L / 256}}));
     EXPECT_TRUE(std::isnan(NormalLower(NaN)) && std::isnan(LogNormalUpper(0, 1, NaN)) && std::isnan(NormalZ(NaN)));
     // The two tails of a point add up to 1, whichever of them was summed directly.
     std::mt19937_64 random(7);
