@@ -8,6 +8,7 @@
 
 #include "core/detail/BaseLibraryInterface.hpp"
 #include "core/detail/ExtendedPrecision.hpp"
+#include "statistics/detail/BinomialTails.hpp"
 #include "statistics/detail/PoissonTails.hpp"
 
 #include <algorithm>
@@ -117,6 +118,24 @@ Float BinomialAtMost(Float P, Cardinal N, Count K) {
     const Float logDensity = (a - 1) * std::log(q.hi) + (b - 1) * std::log(P) -
                              (LnGamma(a) + LnGamma(b) - LnGamma(a + b));
     return value + q.lo * std::exp(logDensity);
+}
+
+// Beyond this many terms the sums of BinomialTails give way to the incomplete beta
+// function, whose cost does not grow with N p q.
+constexpr Float MaxBinomialSumTerms = 400;
+
+// P(X > K) when upper, else P(X <= K): the CDF and the quantile search share it, so that
+// a quantile is consistent with the tail it inverts.
+Float BinomialTail(Float P, Cardinal N, Count K, bool upper) {
+    if (K >= N || P == 0) return upper ? 0 : 1;
+    if (P == 1) return upper ? 1 : 0;
+    const Float n = Float(N), k = Float(K), mean = n * P, variance = mean * (1 - P);
+    // Up to a variance of 1600 even the series from the centre, 9.6 deviations, is short.
+    if (variance <= 1600 || detail::RatioSeriesLength(k, mean, std::sqrt(variance)) <= MaxBinomialSumTerms) {
+        const detail::BinomialTailPair tails = detail::BinomialTails(Cardinal(K), N, P);
+        return upper ? tails.upper : tails.lower;
+    }
+    return upper ? BinomialAbove(P, N, K) : BinomialAtMost(P, N, K);
 }
 
 // ---- Quantiles --------------------------------------------------------------------------
@@ -240,37 +259,37 @@ Float PoissonBetween(Float Lambda, Cardinal X1, Cardinal X2) {
 
 Float BinomialLower(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
-    return BinomialAtMost(P, N, K);
+    return BinomialTail(P, N, K, false);
 }
 
 Float BinomialUpper(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
-    return BinomialAbove(P, N, K);
+    return BinomialTail(P, N, K, true);
 }
 
 Float BinomialPoint(Float P, Cardinal N, Cardinal K) {
     CheckBinomialParameters(P, N);
     if (K > N) return 0;
     if (P == 0 || P == 1) return K == (P == 0 ? 0 : N) ? 1 : 0;
-    namespace special = Kornummath::special;
-    const special::TwoFloat q = special::TwoSum(1, -P);  // 1 - P exactly
-    return special::BetaDensity({P, 0}, q, Float(K) + 1, Float(N - K) + 1) / (Float(N) + 1);
+    const detail::BinomialConstants& c = detail::BinomialConstantsAt(P);
+    if (K == 0 || K == N) return detail::BinomialEndPoint(K == N, Float(N), c);
+    return detail::ScaledExp(detail::BinomialPointExponent(K, N, c), 1);
 }
 
 Float PoissonPoint(Float Lambda, Cardinal K) {
     CheckPoissonMean(Lambda);
     if (std::isinf(Lambda)) return 0;
-    return detail::ScaledExp(detail::PoissonPointExponent(Float(K), Lambda), 1);
+    return detail::ScaledExp(detail::PoissonPointExponent(K, detail::PoissonConstantsAt(Lambda)), 1);
 }
 
 Float PoissonLower(Float Lambda, Cardinal K) {
     CheckPoissonMean(Lambda);
-    return detail::PoissonTails(Lambda, Float(K)).lower;
+    return detail::PoissonTails(Lambda, K).lower;
 }
 
 Float PoissonUpper(Float Lambda, Cardinal K) {
     CheckPoissonMean(Lambda);
-    return detail::PoissonTails(Lambda, Float(K)).upper;
+    return detail::PoissonTails(Lambda, K).upper;
 }
 
 Cardinal InvBinomialLess(Float P, Cardinal N, Float Alpha) {
@@ -278,7 +297,7 @@ Cardinal InvBinomialLess(Float P, Cardinal N, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 0) return 0;
     return BinomialQuantile(P, N, NormalQuantileAt(Alpha, false),
-                            [&](Count k) { return BinomialAtMost(P, N, k) >= Alpha; });
+                            [&](Count k) { return BinomialTail(P, N, k, false) >= Alpha; });
 }
 
 Cardinal InvBinomialGreater(Float P, Cardinal N, Float Alpha) {
@@ -286,7 +305,7 @@ Cardinal InvBinomialGreater(Float P, Cardinal N, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 1) return 0;
     return BinomialQuantile(P, N, NormalQuantileAt(Alpha, true),
-                            [&](Count k) { return BinomialAbove(P, N, k) <= Alpha; });
+                            [&](Count k) { return BinomialTail(P, N, k, true) <= Alpha; });
 }
 
 Cardinal InvPoissonLess(Float Lambda, Float Alpha) {
@@ -294,7 +313,7 @@ Cardinal InvPoissonLess(Float Lambda, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 0) return 0;
     return PoissonQuantile(Lambda, NormalQuantileAt(Alpha, false),
-                           [&](Count k) { return detail::PoissonTails(Lambda, Float(k)).lower >= Alpha; });
+                           [&](Count k) { return detail::PoissonTails(Lambda, Cardinal(k)).lower >= Alpha; });
 }
 
 Cardinal InvPoissonGreater(Float Lambda, Float Alpha) {
@@ -302,7 +321,7 @@ Cardinal InvPoissonGreater(Float Lambda, Float Alpha) {
     CheckLevel(Alpha);
     if (Alpha == 1) return 0;
     return PoissonQuantile(Lambda, NormalQuantileAt(Alpha, true),
-                           [&](Count k) { return detail::PoissonTails(Lambda, Float(k)).upper <= Alpha; });
+                           [&](Count k) { return detail::PoissonTails(Lambda, Cardinal(k)).upper <= Alpha; });
 }
 
 }  // namespace KornumStatistics

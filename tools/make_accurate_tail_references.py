@@ -141,7 +141,8 @@ def discrete_rows():
     rows = []
     for ptext in ["1e-10", "0.01", "0.3", "0.5", "0.7", "0.99", "0.999999"]:
         p = exact(ptext)
-        for n in [1, 3, 10, 100, 1000, 100000]:
+        # 4095 and 4096 straddle the end of the table of ln k! behind the point probability.
+        for n in [1, 3, 10, 100, 1000, 4095, 4096, 100000]:
             deviation = mp.sqrt(n * p * (1 - p))
             for k in counts_around(n * p, deviation, n, STEPS):
                 lower, upper = binomial_tails(p, n, k)
@@ -158,7 +159,7 @@ def discrete_rows():
              "30000", "100000"]
     for ltext in means:
         lam = exact(ltext)
-        ks = counts_around(lam, mp.sqrt(lam), 10**7, STEPS) + [30, 100, 198, 199, 200, 1000, 1750]
+        ks = counts_around(lam, mp.sqrt(lam), 10**7, STEPS) + [30, 100, 198, 199, 200, 1000, 1750, 4095, 4096]
         for k in sorted(set(ks)):
             lower, upper = poisson_tails(lam, k)
             if not representable(lower, upper):

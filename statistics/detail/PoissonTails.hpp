@@ -2,11 +2,12 @@
 // regularised incomplete gamma functions Q(k + 1, lambda) = P(Y <= k) and
 // P(k + 1, lambda) = P(Y > k) for a whole k. Internal to the library (not installed).
 //
-// The point probability p(k) = e^-lambda lambda^k / k! is formed as one exponential of an
-// exponent in two Floats. From k = 15 on, Stirling's series turns it into
-//   p(k) = exp(-D(k, lambda) - mu(k)) / sqrt(2 pi k),   D = k ln(k / lambda) + lambda - k,
+// The point probability p(k) = e^-lambda lambda^k / k! is one exponential of an exponent
+// in two Floats: k ln lambda - lambda - ln k! with ln k! from a table below k = 4096,
+// where the parts reach only k ln k; beyond it
+//   p(k) = exp(-D(k, lambda) - d(k)) / sqrt(2 pi k),   D = k ln(k / lambda) + lambda - k,
 // whose D is free of the cancellation between k ln lambda, lambda and ln k! (each of them
-// may reach 10^10 while D is small), and mu is the Stirling remainder.
+// may reach 10^10 while D is small), and d is the remainder of Stirling's formula.
 //
 // The smaller tail is p(k) times a series of positive terms, the larger one is 1 minus
 // it: below k + 1 = lambda the lower tail p(k) (1 + k / lambda + k (k - 1) / lambda^2 + ...),
@@ -18,11 +19,15 @@
 
 #include "core/detail/ExtendedPrecision.hpp"
 #include "statistics/detail/GammaUniformExpansion.hpp"
+#include "statistics/detail/LogFactorialRemainder.hpp"
+#include "statistics/detail/LogFactorialTable.hpp"
 #include "statistics/detail/MillsRatio.hpp"
+#include "statistics/detail/SaddlePointTerms.hpp"
 
 #include <kornum/Kornumglobals.h>
 
 #include <cmath>
+#include <cstdint>
 
 namespace KornumStatistics::detail {
 
@@ -55,27 +60,43 @@ TwoFloat PoissonDeviance(Float k, Float lambda, LogK logK) {
     return (logK() - special::Log(lambda)) * k - difference;
 }
 
-// ln p(k) in two Floats, for a whole k >= 0 and a finite lambda > 0.
-inline TwoFloat PoissonPointExponent(Float k, Float lambda) {
+// What the tails at one lambda share, remembered for the last lambda of this thread.
+struct PoissonConstants {
+    Float lambda = 0;  // never a valid mean: nothing is remembered yet
+    Multiplier logLambda;
+    TwoFloat inverse{0, 0}, inverseSquared{0, 0};  // 1 / lambda and its square
+    TwoFloat square{0, 0};                         // lambda^2
+};
+
+// Kept out of line, so that the callers stay small enough to be inlined themselves.
+[[gnu::noinline, gnu::cold]] inline void Refresh(PoissonConstants& c, Float lambda) {
     namespace special = Kornummath::special;
-    if (k < special::StirlingThreshold) {
-        // k ln lambda - lambda - ln k!, with k! exact in a Float.
-        Float factorial = 1;
-        for (Float i = 2; i <= k; i += 1) factorial *= i;
-        const TwoFloat power = k == 0 ? TwoFloat{0, 0} : special::Log(lambda) * k;
-        return power - TwoFloat{lambda, 0} - special::Log(factorial);
-    }
-    const TwoFloat logK = special::Log(k);
-    return -(PoissonDeviance(k, lambda, [&] { return logK; }) + logK * 0.5L + special::LnSqrtTwoPi +
-             TwoFloat{special::StirlingRemainder(1 / k), 0});
+    const TwoFloat inverse = TwoFloat{1, 0} / TwoFloat{lambda, 0};
+    c.lambda = lambda;
+    c.logLambda = Multiplier(special::Log(lambda));
+    c.inverse = inverse;
+    c.inverseSquared = inverse * inverse;
+    c.square = TwoFloat{lambda, 0} * TwoFloat{lambda, 0};
 }
 
-// e^exponent times a factor s >= 1; near the underflow threshold the factor enters the
-// exponent, so that a tail that is still normal is not built from a subnormal p(k).
-inline Float ScaledExp(TwoFloat exponent, Float s) {
+inline const PoissonConstants& PoissonConstantsAt(Float lambda) {
+    thread_local PoissonConstants last;
+    if (last.lambda != lambda) Refresh(last, lambda);
+    return last;
+}
+
+// ln p(k) in two Floats, for k >= 0 and a finite lambda > 0. Inlined: a TwoFloat
+// returned through memory costs two slow stores and loads of the 80-bit format. The
+// count comes as an integer: converting a Float to one would cost two changes of the
+// x87 control word.
+[[gnu::always_inline]] inline TwoFloat PoissonPointExponent(std::uint32_t count, const PoissonConstants& c) {
     namespace special = Kornummath::special;
-    if (exponent.hi > -11000) return special::Exp(exponent) * s;
-    return special::Exp(exponent + special::Log(s));
+    const Float k = count;
+    if (count < LogFactorialTableSize)
+        return c.logLambda.Times(k) - (TwoFloat{c.lambda, 0} + LogFactorialTable::UpTo(count)[count]);
+    const TwoFloat logK = special::Log(k);
+    return -(Deviance(k, {c.lambda, 0}) + logK * 0.5L + special::LnSqrtTwoPi +
+             TwoFloat{LogFactorialRemainder(k), 0});
 }
 
 struct PoissonTailPair {
@@ -99,43 +120,26 @@ inline PoissonTailPair PoissonTailsNearCentre(Float lambda, Float a, TwoFloat de
     return {1 - upper, upper};
 }
 
-// Both tails at a whole k >= 0 for lambda > 0 (infinite included).
-inline PoissonTailPair PoissonTails(Float lambda, Float k) {
+// Both tails at k >= 0 for lambda > 0 (infinite included).
+inline PoissonTailPair PoissonTails(Float lambda, std::uint32_t count) {
     if (std::isinf(lambda)) return {0, 1};
-    const Float a = k + 1;
+    const Float k = count, a = k + 1;
     if (a >= GammaExpansionMinShape) {
         const TwoFloat deviance = PoissonDeviance(a, lambda, [a] { return Kornummath::special::Log(a); });
         // |eta| <= 1, that is a eta^2 / 2 <= a / 2.
         if (deviance.hi <= a * (GammaExpansionMaxEta * GammaExpansionMaxEta) / 2)
             return PoissonTailsNearCentre(lambda, a, deviance);
     }
-    constexpr Float Negligible = 0x1p-66L;  // a term this far below the sum ends it
-    const TwoFloat exponent = PoissonPointExponent(k, lambda);
-    if (a >= lambda) {
-        // The terms lambda^n / ((k + 1) ... (k + n)), whose ratios lambda / (k + n) fall
-        // from at most 1, two at a time: with q = lambda / (j (j + 1)) (j (j + 1) is exact)
-        // the next two add term q (j + 1 + lambda) and the second of them is term lambda q.
-        // One division per two terms, each rounded once, so that their errors do not add
-        // up in one direction.
-        Float term = 1, sum = 0;
-        for (Float j = k + 1;; j += 2) {
-            const Float q = lambda / (j * (j + 1));
-            sum += term * q * (j + 1 + lambda);
-            term *= lambda * q;
-            if (term <= sum * Negligible) break;
-        }
-        const Float upper = ScaledExp(exponent, sum);
+    const PoissonConstants& c = PoissonConstantsAt(lambda);
+    const TwoFloat exponent = PoissonPointExponent(count, c);
+    if (a >= lambda) {  // the ratios lambda / (k + n) fall from at most 1
+        // The series underflows to 0 for a subnormal lambda, and with it the tail.
+        const Float sum = RatioSeries<0, 1>(1, k + 1, {lambda, 0}, c.square);
+        const Float upper = sum > 0 ? ScaledExp(exponent, sum) : 0;
         return {1 - upper, upper};
     }
-    // The terms k (k - 1) ... (k - n + 1) / lambda^n; the ratios j / lambda with 1 / lambda
-    // in two Floats, so that its rounding is not repeated in every term.
-    const TwoFloat inverse = TwoFloat{1, 0} / TwoFloat{lambda, 0};
-    Float term = 1, sum = 1;
-    for (Float j = k; j > 0; j -= 1) {
-        term *= j * inverse.hi + j * inverse.lo;
-        sum += term;
-        if (term <= sum * Negligible) break;
-    }
+    // The ratios (k - n + 1) / lambda, with 1 / lambda in two Floats.
+    const Float sum = 1 + RatioSeries<1, 0>(k, 1, c.inverse, c.inverseSquared);
     const Float lower = ScaledExp(exponent, sum);
     return {lower, 1 - lower};
 }

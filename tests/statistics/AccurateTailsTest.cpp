@@ -16,6 +16,7 @@ namespace {
 
 constexpr Float NaN = std::numeric_limits<Float>::quiet_NaN();
 constexpr Float Infinity = std::numeric_limits<Float>::infinity();
+constexpr Float Tiny = std::numeric_limits<Float>::denorm_min();
 
 struct Reference {
     std::string kind;
@@ -127,7 +128,16 @@ TEST(AccurateTails, SupportEndsInfinitiesAndComplements) {
                           {BinomialUpper(1, 5, 4), 1},
                           {BinomialLower(1, 5, 4), 0},
                           {PoissonLower(Infinity, 7), 0},
-                          {PoissonUpper(Infinity, 7), 1}}));
+                          {PoissonUpper(Infinity, 7), 1},
+                          // The upper tails underflow whole, series and all.
+                          {PoissonUpper(Tiny, 4095), 0},
+                          {PoissonLower(Tiny, 100000), 1},
+                          {BinomialUpper(Tiny, 100, 3), 0},
+                          {BinomialUpper(Tiny, 100, 0), 100 * Tiny},
+                          // Powers at the ends of the support, exact where the result is.
+                          {BinomialPoint(0.5L, 2, 2), 0.25L},
+                          {BinomialLower(0.5L, 10, 0), 0x1p-10L},
+                          {BinomialPoint(0.25L, 4, 0), 81.0L / 256}}));
     EXPECT_TRUE(std::isnan(NormalLower(NaN)) && std::isnan(LogNormalUpper(0, 1, NaN)) && std::isnan(NormalZ(NaN)));
     // The two tails of a point add up to 1, whichever of them was summed directly.
     std::mt19937_64 random(7);
@@ -141,6 +151,35 @@ TEST(AccurateTails, SupportEndsInfinitiesAndComplements) {
         EXPECT_LE(std::fabs(PoissonLower(lambda, count) + PoissonUpper(lambda, count) - 1), 0x1p-62L)
             << double(lambda) << " " << count;
     }
+}
+
+TEST(AccurateTails, DiscreteValuesDoNotDependOnWhatWasAskedBefore) {
+    // The logarithms of the last parameters are kept per thread: the same arguments give
+    // the same bits whether they come first, after other parameters or repeated, here
+    // with 0.3 and 0.7 (whose 1 - P swap roles) and means that differ in the last bit.
+    struct Call {
+        int kind;
+        Float parameter;
+        Cardinal count;
+    };
+    const Float near40 = std::nextafter(40.0L, 41.0L);
+    const std::vector<Call> calls{{0, 0.3L, 20}, {1, 0.7L, 80}, {0, 0.7L, 20}, {2, 40, 35},
+                                  {2, near40, 35}, {0, 0.3L, 999}, {1, 0.3L, 20}, {2, 40, 4000}};
+    const auto evaluate = [](const Call& c) {
+        switch (c.kind) {
+            case 0: return BinomialLower(c.parameter, 1000, c.count);
+            case 1: return BinomialUpper(c.parameter, 100, c.count);
+            default: return PoissonUpper(c.parameter, c.count);
+        }
+    };
+    std::vector<Float> forward, backward(calls.size());
+    for (const Call& c : calls) forward.push_back(evaluate(c));
+    for (std::size_t i = calls.size(); i-- > 0;) backward[i] = evaluate(calls[i]);
+    for (std::size_t i = 0; i < calls.size(); ++i) {
+        EXPECT_EQ(forward[i], backward[i]) << i;
+        EXPECT_EQ(forward[i], evaluate(calls[i])) << i;
+    }
+    EXPECT_NE(forward[3], forward[4]);  // the cache told the two means apart
 }
 
 TEST(AccurateTails, ChecksInOrder) {
