@@ -111,6 +111,11 @@ inline BinomialTailPair BinomialTails(std::uint32_t count, std::uint32_t trials,
                                        : ScaledExp(exponent, 1 + RatioSeries<1, 1>(k, n - k + 1, c.down, c.downSquared));
         return {lower, 1 - lower};
     }
+    // At k = n - 1 the upper tail is b(n) itself, the same value as BinomialPoint.
+    if (count + 1 == trials) {
+        const Float upper = BinomialEndPoint(true, n, c);
+        return {1 - upper, upper};
+    }
     // s(k + 1) < 1 here; it may underflow for a tiny p, and with it the whole tail.
     const Float sum = RatioSeries<1, 1>(n - k, k + 1, c.up, c.upSquared);
     const Float upper = sum > 0 ? ScaledExp(exponent, sum) : 0;

@@ -137,6 +137,8 @@ TEST(AccurateTails, SupportEndsInfinitiesAndComplements) {
                           // Powers at the ends of the support, exact where the result is.
                           {BinomialPoint(0.5L, 2, 2), 0.25L},
                           {BinomialLower(0.5L, 10, 0), 0x1p-10L},
+                          {BinomialUpper(0.5L, 10, 9), 0x1p-10L},
+                          {InvBinomialGreater(0.5L, 10, 0x1p-10L), 9},
                           {BinomialPoint(0.25L, 4, 0), 81.0L / 256}}));
     EXPECT_TRUE(std::isnan(NormalLower(NaN)) && std::isnan(LogNormalUpper(0, 1, NaN)) && std::isnan(NormalZ(NaN)));
     // The two tails of a point add up to 1, whichever of them was summed directly.
