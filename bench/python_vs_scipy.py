@@ -9,10 +9,15 @@ long double.
 Usage: python bench/python_vs_scipy.py [--quick]
 """
 
+import os
 import sys
 import time
 
-import numpy as np
+# One BLAS thread: none of the timed calls uses BLAS, and the idle threads of a larger
+# pool spin for a while after NumPy starts, taking a core from whichever side runs next.
+os.environ.setdefault("OPENBLAS_NUM_THREADS", "1")
+
+import numpy as np  # noqa: E402
 import scipy.stats
 
 import kornum
