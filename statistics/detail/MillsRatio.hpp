@@ -3,10 +3,9 @@
 // Internal to the library (not installed).
 #pragma once
 
-#include <kornum/Kornumglobals.h>
+#include "statistics/detail/TaylorNodes.hpp"
 
-#include <cstdint>
-#include <cstring>
+#include <kornum/Kornumglobals.h>
 
 namespace KornumStatistics::detail {
 
@@ -706,22 +705,8 @@ inline constexpr Float MillsTaylor[97][13] = {
 // whose first omitted term is below 2^-67 there.
 inline Float MillsRatio(Float z) {
     if (z < 12) {
-        // Adding 1.5 * 2^63 rounds 8 z to the nearest integer and leaves it in the low
-        // bits of the significand: no slow conversion of this format to an integer.
-        constexpr Float Shifter = 0x1.8p63L;
-        const Float shifted = z * 8 + Shifter;
-        const Float c = (shifted - Shifter) / 8;
-        std::uint64_t bits;
-        std::memcpy(&bits, &shifted, sizeof bits);
-        const Float* r = MillsTaylor[bits - 0xC000000000000000ull];
-        const Float h = z - c;  // exact
-        const Float h2 = h * h;
-        Float even = r[12], odd = r[11];
-        for (int k = 10; k >= 0; k -= 2) {
-            even = even * h2 + r[k];
-            if (k > 0) odd = odd * h2 + r[k - 1];
-        }
-        return even + odd * h;
+        const NearestNode node = NearestNodeOf<8>(z);
+        return EvenOddPolynomial<12>(MillsTaylor[node.index], node.offset);
     }
     // (-1)^k (2k - 1)!!, k = 0 .. 20.
     static constexpr Float Asymptotic[] = {

@@ -4,10 +4,9 @@
 // Internal to the library (not installed).
 #pragma once
 
-#include <kornum/Kornumglobals.h>
+#include "statistics/detail/TaylorNodes.hpp"
 
-#include <cstdint>
-#include <cstring>
+#include <kornum/Kornumglobals.h>
 
 namespace KornumStatistics::detail {
 
@@ -421,23 +420,11 @@ struct TailNearCentre {
 // for the eight registers of this format's stack. The density is -Q' from the same
 // coefficients to the 4th power.
 inline TailNearCentre UpperTailNearCentre(Float z) {
-    // Adding 1.5 * 2^63 rounds 16 z to the nearest integer and leaves it in the low bits
-    // of the significand: no slow conversion of this format to an integer.
-    constexpr Float Shifter = 0x1.8p63L;
-    const Float shifted = z * 16 + Shifter;
-    const Float c = (shifted - Shifter) / 16;
-    std::uint64_t bits;
-    std::memcpy(&bits, &shifted, sizeof bits);
-    const Float* t = NormalTailTaylor[bits - 0xC000000000000000ull];
-    const Float h = z - c;  // exact
-    const Float h2 = h * h;
-    Float even = t[10], odd = t[11];
-    for (int k = 8; k >= 0; k -= 2) {
-        even = even * h2 + t[k];
-        odd = odd * h2 + t[k + 1];
-    }
+    const NearestNode node = NearestNodeOf<16>(z);
+    const Float* t = NormalTailTaylor[node.index];
+    const Float h = node.offset, h2 = h * h;
     const Float slope = (t[1] + 2 * t[2] * h) + (3 * t[3] + 4 * t[4] * h) * h2;
-    return {even + odd * h, -slope};
+    return {EvenOddPolynomial<11>(t, h), -slope};
 }
 
 }  // namespace KornumStatistics::detail
