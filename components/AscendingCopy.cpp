@@ -1,4 +1,5 @@
 #include "components/detail/AscendingCopy.hpp"
+#include "core/detail/RadixSort.hpp"
 
 #include <kornum/KorVector.h>
 #include <kornum/KornumVector.h>
@@ -18,6 +19,7 @@ namespace {
 using Kornumglobals::Integer;
 using Kornumglobals::PackedFloat;
 using Kornumglobals::TKorFloatVector;
+using Kornumglobals::detail::RadixSort;
 
 // A canonical, non-NaN Float as a 79-bit unsigned integer whose order is the numeric
 // order: the exponent (15 bits) above the fraction (63 bits; the integer bit is left
@@ -95,64 +97,6 @@ bool SortsUniquely(const TKorFloatVector& V, KeySpread& spread) {
     }
     spread = {any, all};
     return !unordered && !(positiveZero && negativeZero);
-}
-
-// The position of the highest set bit of x (not 0).
-int HighestBit(std::uint64_t x) { return 63 - std::countl_zero(x); }
-int HighestBit(Wide x) {
-    const std::uint64_t high = std::uint64_t(x >> 64);
-    return high != 0 ? 64 + HighestBit(high) : HighestBit(std::uint64_t(x));
-}
-
-template <class K>
-void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch);
-
-// One step of a most-significant-digit-first radix sort of unsigned integer keys, which
-// moves the keys between the data and a scratch area of the same size: the keys are
-// counted by their 8-bit digit at `shift` and scattered into their buckets in the other
-// area, and each bucket is then sorted by RadixSort, the two areas changing roles. The
-// sorted keys end in `data` or, with `toScratch`, in `scratch`.
-template <class K>
-void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, bool toScratch) {
-    std::array<std::size_t, 256> count{};
-    for (std::size_t i = 0; i < n; ++i) ++count[unsigned(data[i] >> shift) & 0xFF];
-    std::array<std::size_t, 256> next;
-    std::size_t sum = 0;
-    for (std::size_t b = 0; b < 256; ++b) {
-        next[b] = sum;
-        sum += count[b];
-    }
-    for (std::size_t i = 0; i < n; ++i) scratch[next[unsigned(data[i] >> shift) & 0xFF]++] = data[i];
-    std::size_t start = 0;
-    for (std::size_t b = 0; b < 256; ++b) {
-        if (count[b] != 0) RadixSort(scratch + start, data + start, count[b], !toScratch);
-        start += count[b];
-    }
-}
-
-// Sorts the keys at `data` into `data` or, with `toScratch`, into `scratch`: small
-// groups by insertion, larger ones by ScatterByDigit on the eight highest bits in which
-// they differ, found with one pass over them (so that a run of equal keys costs one pass
-// and no digit is counted for nothing).
-template <class K>
-void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
-    constexpr std::size_t Small = 48;
-    if (n > Small) {
-        K any = 0, all = ~K(0);
-        for (std::size_t i = 0; i < n; ++i) {
-            any |= data[i];
-            all &= data[i];
-        }
-        if (any != all) return ScatterByDigit(data, scratch, n, std::max(HighestBit(any ^ all) - 7, 0), toScratch);
-    } else {
-        for (std::size_t i = 1; i < n; ++i) {
-            const K x = data[i];
-            std::size_t j = i;
-            for (; j > 0 && x < data[j - 1]; --j) data[j] = data[j - 1];
-            data[j] = x;
-        }
-    }
-    if (toScratch) std::copy(data, data + n, scratch);
 }
 
 // Uninitialised room for n keys, in the vectors' storage (huge pages for a large one).

@@ -1,6 +1,7 @@
 #include <kornum/KornumSharded.h>
 
 #include "components/detail/ReportEntries.hpp"
+#include "core/detail/RadixSort.hpp"
 #include "sharded/detail/Bytes.hpp"
 #include "sharded/detail/KeyBytes.hpp"
 
@@ -18,27 +19,16 @@ namespace KornumSharded {
 
 namespace {
 
-// One stable counting pass of the keys by a digit below Buckets, through spare.
-template <std::size_t Buckets, class Key, class Digit>
-void CountingPass(std::vector<Key>& keys, std::vector<Key>& spare, Digit digit) {
-    std::array<std::size_t, Buckets> start{};
-    for (const Key& k : keys) ++start[digit(k)];
-    std::size_t sum = 0;
-    for (std::size_t& s : start) sum += std::exchange(s, sum);
-    for (const Key& k : keys) spare[start[digit(k)]++] = k;
-    keys.swap(spare);
-}
-
-// Calls visit(x) for each value in ascending order, sorting only the keys: a radix sort
-// from the least significant digit, 11 bits a digit (2048 counters, which stay in the
-// first-level cache), skipping every digit in which no two keys differ. Where the bits in
-// which keys differ span at most 64 (values of one sign within a few binary orders of
-// magnitude, as a range of the mode usually holds), only those 64 bits are moved, half
-// the bytes of a whole key.
+// Calls visit(x) for each value in ascending order, sorting only the keys by radix.
+// Where the bits in which keys differ span at most 64 (values of one sign within a few
+// binary orders of magnitude, as a range of the mode usually holds), only those 64 bits
+// are moved, half the bytes of a whole key.
 template <class Visit>
 void ForEachAscending(std::span<const Float> values, Visit visit) {
-    __extension__ typedef unsigned __int128 u128;  // GCC's 128-bit integer
+    using Kornumglobals::detail::RadixSort;
+    using u128 = Kornumglobals::detail::UInt128;
     const auto wide = [](const TKorKey& k) { return u128(k.High) << 64 | k.Low; };
+    const auto value = [](u128 key) { return ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}); };
     const std::size_t n = values.size();
     u128 any = 0, all = ~u128(0);
     for (const Float& x : values) {
@@ -51,35 +41,21 @@ void ForEachAscending(std::span<const Float> values, Visit visit) {
         for (const Float& x : values) visit(x);
         return;
     }
-    constexpr int Bits = 11;
-    constexpr std::uint64_t Mask = (std::uint64_t(1) << Bits) - 1;
-    const auto sort = [](auto& k, auto& spare, std::uint64_t varies, auto lowOf) {
-        for (int shift = 0; shift < 64; shift += Bits)
-            if ((varies >> shift) & Mask)
-                CountingPass<std::size_t(1) << Bits>(k, spare, [&](const auto& key) { return (lowOf(key) >> shift) & Mask; });
-    };
-    const std::uint64_t low = std::uint64_t(varying), high = std::uint64_t(varying >> 64);
-    const int lowest = low ? __builtin_ctzll(low) : 64 + __builtin_ctzll(high);
-    const int highest = high ? 127 - __builtin_clzll(high) : 63 - __builtin_clzll(low);
-    if (highest - lowest < 64) {
+    const std::uint64_t low = std::uint64_t(varying);
+    const int lowest = low ? __builtin_ctzll(low) : 64 + __builtin_ctzll(std::uint64_t(varying >> 64));
+    if (Kornumglobals::detail::HighestBit(varying) - lowest < 64) {
         std::vector<std::uint64_t> window(n), spare(n);
         for (std::size_t i = 0; i < n; ++i) window[i] = std::uint64_t(wide(detail::KeyAt(&values[i])) >> lowest);
-        sort(window, spare, std::uint64_t(varying >> lowest), [](std::uint64_t k) { return k; });
+        RadixSort(window.data(), spare.data(), n, false);
         // The bits outside the window are the same in every key.
         const u128 shared = all & ~(u128(~std::uint64_t(0)) << lowest);
-        for (const std::uint64_t w : window) {
-            const u128 key = shared | u128(w) << lowest;
-            visit(ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}));
-        }
+        for (const std::uint64_t w : window) visit(value(shared | u128(w) << lowest));
         return;
     }
-    std::vector<TKorKey> keys(n), spare(n);
-    for (std::size_t i = 0; i < n; ++i) keys[i] = detail::KeyAt(&values[i]);
-    sort(keys, spare, low, [](const TKorKey& k) { return k.Low; });
-    for (int shift = 0; shift < 16; shift += 8)
-        if ((high >> shift) & 0xff)
-            CountingPass<256>(keys, spare, [shift](const TKorKey& k) { return std::size_t(k.High >> shift) & 0xff; });
-    for (const TKorKey& k : keys) visit(ValueOf(k));
+    std::vector<u128> keys(n), spare(n);
+    for (std::size_t i = 0; i < n; ++i) keys[i] = wide(detail::KeyAt(&values[i]));
+    RadixSort(keys.data(), spare.data(), n, false);
+    for (const u128 key : keys) visit(value(key));
 }
 
 }  // namespace

@@ -5,7 +5,9 @@ would for all the values at once, and the same bits whatever the number of chunk
 order or the workers that ran them: each chunk is summarised exactly (count, extremes and
 exact sums of the first four powers), the order statistics are selected by counting key
 prefixes over the chunks (two or three passes, no sort of the whole), and only the mode
-moves the values once, each range of keys to one task.
+moves data: the cells of a fine cut of the number line are counted, each range of cells
+in one task, and only the values of the busy cells, which can be in a run of equal
+neighbours, move on to the runs of each range of keys.
 """
 
 from __future__ import annotations
@@ -122,6 +124,30 @@ def _persisted(chunks: List[Any]) -> List[Any]:
     return client.persist(chunks)
 
 
+def _mode(chunks: List[Any], bounds: List[Any], n: int, progress: bool) -> Any:
+    """Whether the values have a mode, and the mode: the runs of equal neighbours of each
+    range of keys, from the values of the cells the filter finds busy (all values when
+    there are few, or when the tolerance is too coarse for cells)."""
+    import dask
+
+    candidates = chunks
+    cells = _kornum.cell_bounds(bounds)
+    if cells is not None and n > GATHER_LIMIT:
+        limits = [0] + cells + [2**64 - 1]
+        split = [dask.delayed(_kornum.split_cells, nout=len(cells) + 1)(c, cells) for c in chunks]
+        busy = _compute(progress, *[dask.delayed(_kornum.busy_cells)([s[i] for s in split], limits[i], limits[i + 1])
+                                    for i in range(len(cells) + 1)])
+        busy_cells = dask.delayed(np.concatenate([b for b, _ in busy]))
+        candidates = [dask.delayed(_kornum.mode_candidates)(c, busy_cells) for c in chunks]
+        if sum(count for _, count in busy) <= GATHER_LIMIT:
+            runs = dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)(candidates))
+            return _compute(progress, dask.delayed(_kornum.append_runs)([runs]))[0]
+    splits = [dask.delayed(_kornum.split_by_range, nout=len(bounds) + 1)(c, bounds) for c in candidates]
+    runs = [dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)([s[i] for s in splits]))
+            for i in range(len(bounds) + 1)]
+    return _compute(progress, dask.delayed(_kornum.append_runs)(runs))[0]
+
+
 def describe(data: Any, *, population: bool = False, mode: bool = True, column: Any = None, field: int = 0,
              delimiter: Optional[str] = None, header: bool = False, allow_nonfinite: bool = False,
              progress: bool = False) -> Description:
@@ -183,10 +209,7 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
         if any(h[0] not in finer for h in heavy):
             counted([])
         bounds = _kornum.range_bounds(tops[0], sorted(finer.items()), parts)
-        splits = [dask.delayed(_kornum.split_by_range, nout=len(bounds) + 1)(c, bounds) for c in chunks]
-        runs = [dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)([s[i] for s in splits]))
-                for i in range(len(bounds) + 1)]
-        mode_exists, mode_value = _compute(progress, dask.delayed(_kornum.append_runs)(runs))[0]
+        mode_exists, mode_value = _mode(chunks, bounds, n, progress)
     result = _kornum.ShardedSummary(summary, bool(population), selection.values(), mode_exists, mode_value)
     description = Description(result, bool(population))
     if not mode:

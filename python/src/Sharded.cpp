@@ -15,6 +15,7 @@
 #include <kornum/Platform.h>
 
 #include <cstring>
+#include <optional>
 
 namespace KornumPython {
 
@@ -30,6 +31,15 @@ py::array_t<Float> FromFloats(const std::vector<Float>& values) {
     if (!values.empty()) std::memcpy(result.mutable_data(), values.data(), values.size() * sizeof(Float));
     return result;
 }
+
+// Cell numbers of the mode's filter cross as uint64 arrays that own their vector.
+using WordArray = py::array_t<std::uint64_t, py::array::c_style | py::array::forcecast>;
+py::array_t<std::uint64_t> FromWords(std::vector<std::uint64_t>&& words) {
+    auto* owned = new std::vector<std::uint64_t>(std::move(words));
+    py::capsule free(owned, [](void* p) { delete static_cast<std::vector<std::uint64_t>*>(p); });
+    return py::array_t<std::uint64_t>(py::ssize_t(owned->size()), owned->data(), free);
+}
+std::span<const std::uint64_t> Words(const WordArray& a) { return {a.data(), std::size_t(a.size())}; }
 
 // Keys cross into Python as (high, low) pairs, prefix requests as (high, low, bits).
 using KeyTuple = std::pair<std::uint16_t, std::uint64_t>;
@@ -158,6 +168,44 @@ void BindSharded(py::module_& m) {
               for (const auto& part : split) parts.append(FromFloats(part));
               return parts;
           }, py::arg("values"), py::arg("bounds"));
+    m.def("cell_bounds", [](const std::vector<KeyTuple>& bounds) -> std::optional<std::vector<std::uint64_t>> {
+              const TKorModeCells cells;
+              if (!cells.Usable()) return std::nullopt;
+              std::vector<TKorKey> keys;
+              for (const auto& [high, low] : bounds) keys.push_back({high, low});
+              return cells.Bounds(keys);
+          }, py::arg("bounds"), "The mode filter's part bounds from range bounds; None when the tolerance allows no cells (internal).");
+    m.def("split_cells", [](py::handle values, const std::vector<std::uint64_t>& bounds) {
+              const FloatArray array = ToFloatVector(values, "values");
+              std::vector<std::vector<std::uint64_t>> split;
+              {
+                  py::gil_scoped_release release;
+                  split = TKorModeCells().SplitCells(Span(array), bounds);
+              }
+              py::list parts;
+              for (auto& part : split) parts.append(FromWords(std::move(part)));
+              return parts;
+          }, py::arg("values"), py::arg("bounds"));
+    m.def("busy_cells", [](const std::vector<WordArray>& pieces, std::uint64_t low, std::uint64_t high) {
+              std::vector<std::span<const std::uint64_t>> spans;
+              for (const WordArray& piece : pieces) spans.push_back(Words(piece));
+              std::vector<std::uint64_t> busy;
+              Int64 count = 0;
+              {
+                  py::gil_scoped_release release;
+                  busy = BusyCells(spans, low, high, count);
+              }
+              return py::make_tuple(FromWords(std::move(busy)), count);
+          }, py::arg("pieces"), py::arg("low"), py::arg("high"));
+    m.def("mode_candidates", [](py::handle values, const WordArray& busy) {
+              const FloatArray array = ToFloatVector(values, "values");
+              std::vector<Float> found;
+              {
+                  py::gil_scoped_release release;
+                  found = TKorModeCells().Candidates(Span(array), Words(busy));
+              }
+              return FromFloats(found);
+          }, py::arg("values"), py::arg("busy"));
     m.def("run_summary", [](py::handle values) {
               const FloatArray array = ToFloatVector(values, "values");
               std::string runs;

@@ -106,6 +106,25 @@ def test_every_partitioning_gives_the_same_bits(client, population):
     assert single.mode == np.longdouble(11.125)
 
 
+def test_the_mode_of_many_values_matches_one_process(client):
+    """Above the gathering limit the mode passes through the cell filter: planted runs of
+    values equal within the tolerance but not equal (the longest across chunks), exact
+    repeats, and integers where every value repeats."""
+    rng = np.random.default_rng(4)
+    n = kornum.dask.GATHER_LIMIT + 40000
+    continuous = rng.normal(1000, 7, n).astype(np.longdouble)
+    chain = np.longdouble(1003.5) * (1 + np.arange(4, dtype=np.longdouble) * np.longdouble(6e-16))
+    pairs = np.repeat(continuous[:3], 2)
+    cases = [continuous, np.concatenate([continuous, chain, pairs]), np.concatenate([continuous, pairs]),
+             rng.integers(-50, 50, n).astype(np.longdouble)]
+    for values in cases:
+        single = kornum.describe(values)
+        sharded = kornum.dask.describe(random_chunks(rng, values))
+        assert (sharded.mode is None) == (single.mode is None)
+        assert sharded.mode == single.mode or single.mode is None
+    assert kornum.describe(cases[1]).mode == chain[-1]
+
+
 @pytest.mark.parametrize("values", [[7.0], [1.0, 2.0], [3.0, 1.0, 3.0], [2.0, 2.0, 2.0, 2.0], [1, 2, 3, 4, 4, 5]])
 def test_small_samples_give_the_report_of_one_process(client, values):
     array = np.array(values, dtype=np.longdouble)

@@ -1,10 +1,12 @@
 #include <kornum/KornumDescStats.h>
 #include <kornum/KornumSharded.h>
+#include <kornum/Kornummath.h>
 #include <kornum/Platform.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <set>
 #include <cmath>
@@ -64,15 +66,34 @@ std::vector<KornumDescStats::TKorReportEntry> ShardedReport(const std::vector<st
     std::vector<std::pair<std::uint32_t, TKorHistogram>> finer;
     for (std::size_t i = 0; i < heavy.size(); i += 2) finer.push_back({heavy[i].Prefix.High, next[i]});
     const std::vector<TKorKey> bounds = RangeBounds(top[0], finer, 5);
+    // The mode's filter: only the values of busy cells go on to the runs.
+    const TKorModeCells cells;
+    std::vector<std::vector<Float>> candidates = shards;
+    if (cells.Usable()) {
+        const std::vector<std::uint64_t> cellBounds = cells.Bounds(bounds);
+        std::vector<std::vector<std::vector<std::uint64_t>>> split;
+        for (const auto& shard : shards) split.push_back(cells.SplitCells(shard, cellBounds));
+        std::vector<std::uint64_t> busy;
+        for (std::size_t i = 0; i <= cellBounds.size(); ++i) {
+            std::vector<std::span<const std::uint64_t>> pieces;
+            for (const auto& s : split) pieces.push_back(s[i]);
+            Int64 count = 0;
+            const auto some = BusyCells(pieces, i == 0 ? 0 : cellBounds[i - 1],
+                                        i == cellBounds.size() ? ~std::uint64_t(0) : cellBounds[i], count);
+            busy.insert(busy.end(), some.begin(), some.end());
+        }
+        for (std::size_t i = 0; i < shards.size(); ++i) candidates[i] = cells.Candidates(shards[i], busy);
+    }
     std::vector<std::vector<Float>> ranges(bounds.size() + 1);
-    for (const auto& shard : shards) {
+    for (const auto& shard : candidates) {
         const auto split = SplitByRange(shard, bounds);
         for (std::size_t i = 0; i < split.size(); ++i) ranges[i].insert(ranges[i].end(), split[i].begin(), split[i].end());
     }
     TKorRunSummary runs;
     for (const auto& range : ranges) runs.Append(TKorRunSummary::Deserialize(TKorRunSummary::OfValues(range).Serialize()));
+    // A single value is its own mode, though it has no company.
     Float mode = 0;
-    const bool modeExists = runs.Mode(mode);
+    const bool modeExists = summary.Count() == 1 ? (mode = summary.Minimum(), true) : runs.Mode(mode);
     return ReportEntries(summary, population, selection.Values(), modeExists, mode);
 }
 
@@ -253,6 +274,65 @@ TEST(RunSummary, FindsTheModeWhetherKeysDifferInMoreThan64BitsOrFewer) {
     }
 }
 
+// Two values SameFloat calls the same are in one cell or in neighbouring ones, and cells
+// ascend with the values, for tolerances from none to the coarsest that allows cells.
+TEST(ModeCells, SameValuesShareACellOrNeighbouringCells) {
+    const Float saved = Kornumglobals::KorTolerance;
+    std::mt19937_64 rng(3);
+    std::uniform_real_distribution<double> unit(0, 1);
+    for (const Float tolerance : {1e-15L, 0.0L, 1e-10L, 0x1p-6L}) {
+        Kornumglobals::KorTolerance = tolerance;
+        const TKorModeCells cells;
+        ASSERT_TRUE(cells.Usable());
+        for (int i = 0; i < 200000; ++i) {
+            // Magnitudes from 1e-30 to 1e30, many near 0 and 1, both signs.
+            const int kind = i % 4;
+            Float x = kind == 0 ? std::pow(10.0L, Float(unit(rng) * 60 - 30))
+                    : kind == 1 ? Float(unit(rng)) * 4 * tolerance
+                    : kind == 2 ? 1 + Float(unit(rng) - 0.5) * 8 * tolerance
+                                : std::ldexp(1.0L, int(unit(rng) * 200) - 100);
+            if (rng() & 1) x = -x;
+            // A neighbour at most the tolerance away, or a step more.
+            const Float step = tolerance * std::max<Float>(1, std::fabs(x)) * Float(unit(rng) * 1.25);
+            const Float y = (rng() & 1) ? x + step : x - step;
+            const std::uint64_t a = cells.CellOf(x), b = cells.CellOf(y);
+            // Cells ascend with the values (in key order, which puts -0 below +0).
+            const bool below = KeyOf(x) < KeyOf(y);
+            EXPECT_EQ(below, a < b || (a == b && below)) << double(x);
+            if (Kornummath::SameFloat(x, y)) {
+                ASSERT_LE(a > b ? a - b : b - a, 1u) << double(x) << " " << double(y) << " tolerance " << double(tolerance);
+            }
+        }
+        EXPECT_EQ(cells.CellOf(-0.0L) + 1, cells.CellOf(0.0L));
+        EXPECT_LT(cells.CellOf(std::numeric_limits<Float>::max()), cells.CellOf(INFINITY));
+        EXPECT_GT(cells.CellOf(-std::numeric_limits<Float>::max()), cells.CellOf(-INFINITY));
+    }
+    Kornumglobals::KorTolerance = 0x1p-5L;
+    EXPECT_FALSE(TKorModeCells().Usable());
+    Kornumglobals::KorTolerance = saved;
+}
+
+// Company across the edge of two parts is seen from both sides, and a lone value is not
+// busy even when its neighbour's cell is one step away but empty.
+TEST(ModeCells, BusyCellsSeeNeighboursAcrossPartEdges) {
+    const std::vector<std::uint64_t> left = {10, 20, 29, 40}, right = {30, 41, 60, 60};
+    Int64 count = 0;
+    EXPECT_EQ(BusyCells({left, right}, 0, 30, count), (std::vector<std::uint64_t>{29}));
+    EXPECT_EQ(count, 1);
+    // The same cells seen by the part from 30 on, which holds 29 only as a neighbour.
+    EXPECT_EQ(BusyCells({left, right}, 30, ~std::uint64_t(0), count), (std::vector<std::uint64_t>{30, 40, 41, 60}));
+    EXPECT_EQ(count, 5);
+    // SplitCells hands the edge cells to both parts.
+    const TKorModeCells cells;
+    const std::vector<Float> values = {1, 2, 3};
+    const std::vector<std::uint64_t> bounds = {cells.CellOf(2)};
+    const auto split = cells.SplitCells(values, bounds);
+    EXPECT_EQ(split[0], (std::vector<std::uint64_t>{cells.CellOf(1), cells.CellOf(2)}));
+    EXPECT_EQ(split[1], (std::vector<std::uint64_t>{cells.CellOf(2), cells.CellOf(3)}));
+    const std::vector<std::uint64_t> edge = {cells.CellOf(2) + 1};
+    EXPECT_EQ(cells.SplitCells(std::vector<Float>{2}, edge)[1], (std::vector<std::uint64_t>{cells.CellOf(2)}));
+}
+
 TEST(ShardedReport, EqualsTheSingleProcessReport) {
     std::mt19937_64 rng(8);
     std::normal_distribution<double> normal(10, 2);
@@ -274,4 +354,15 @@ TEST(ShardedReport, EqualsTheSingleProcessReport) {
     std::vector<Float> values;
     for (int i = 0; i < 3000; ++i) values.push_back(Float(normal(rng)) * (1 + 0x1p-40L * (i % 3)));
     ExpectSameReport(SingleReport(values, false), ShardedReport(RandomShards(values, 9, rng), false, 2));
+    // Chains of neighbours within the tolerance but not equal, around 0, 1 and 1e6, with
+    // the longest chain split over parts and shards.
+    values.clear();
+    for (int i = 0; i < 4000; ++i) values.push_back(Float(normal(rng)) * 100);
+    for (const Float at : {0.0L, 1.0L, 1e6L, -1.0L})
+        for (int k = 0; k < 4; ++k) values.push_back(at + 0.6e-15L * k * std::max<Float>(1, std::fabs(at)));
+    for (int k = 0; k < 5; ++k) values.push_back(3 + 2.5e-15L * k);
+    for (const int shards : {1, 4, 13}) {
+        const auto single = SingleReport(values, false);
+        ExpectSameReport(single, ShardedReport(RandomShards(values, shards, rng), false, 8));
+    }
 }
