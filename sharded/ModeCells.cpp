@@ -49,6 +49,19 @@ std::uint64_t Cell(std::uint16_t signExponent, std::uint64_t m, int shift, int f
     return signExponent & 0x8000 ? Middle - 1 - g : Middle + g;
 }
 
+// The number of bounds at or below c, by a binary search without branches on the data
+// (conditional moves): the parts of random values are not predictable.
+std::size_t PartOf(const std::vector<std::uint64_t>& bounds, std::uint64_t c) noexcept {
+    if (bounds.empty()) return 0;
+    const std::uint64_t* base = bounds.data();
+    for (std::size_t size = bounds.size(); size > 1;) {
+        const std::size_t half = size / 2;
+        base += std::size_t(base[half - 1] <= c) * half;
+        size -= half;
+    }
+    return std::size_t(base - bounds.data()) + (*base <= c);
+}
+
 }  // namespace
 
 std::uint64_t TKorModeCells::CellOf(const Float& X) const noexcept {
@@ -74,34 +87,39 @@ std::vector<std::uint64_t> TKorModeCells::Bounds(const std::vector<TKorKey>& Key
     return bounds;
 }
 
-// Each value's cell and part first, then the parts filled at their final sizes.
+// Each value's part first (the cells are cheap to compute again, the parts are not),
+// then the parts filled at their final sizes.
 std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const Float> Values,
                                                                   const std::vector<std::uint64_t>& Bounds) const {
     const std::size_t parts = Bounds.size() + 1;
-    std::vector<std::uint64_t> cells(Values.size());
-    std::vector<std::uint32_t> partOf(Values.size());
-    std::vector<std::size_t> sizes(parts);
-    for (std::size_t i = 0; i < Values.size(); ++i) {
-        cells[i] = CellOf(Values[i]);
-        partOf[i] = std::uint32_t(std::upper_bound(Bounds.begin(), Bounds.end(), cells[i]) - Bounds.begin());
-        ++sizes[partOf[i]];
-    }
+    std::vector<std::vector<std::uint64_t>> split(parts);
     // A cell at the edge of a part is also a neighbour in the part beside it.
     const auto belowEdge = [&](std::uint64_t c, std::size_t j) { return j > 0 && c == Bounds[j - 1]; };
     const auto aboveEdge = [&](std::uint64_t c, std::size_t j) { return j + 1 < parts && c + 1 == Bounds[j]; };
-    for (std::size_t i = 0; i < Values.size(); ++i) {
-        if (belowEdge(cells[i], partOf[i])) ++sizes[partOf[i] - 1];
-        if (aboveEdge(cells[i], partOf[i])) ++sizes[partOf[i] + 1];
-    }
-    std::vector<std::vector<std::uint64_t>> split(parts);
-    for (std::size_t j = 0; j < parts; ++j) split[j].reserve(sizes[j]);
-    for (std::size_t i = 0; i < Values.size(); ++i) {
-        const std::uint64_t c = cells[i];
-        const std::size_t j = partOf[i];
-        split[j].push_back(c);
-        if (belowEdge(c, j)) split[j - 1].push_back(c);
-        if (aboveEdge(c, j)) split[j + 1].push_back(c);
-    }
+    const auto fill = [&]<class Part>(Part) {
+        std::vector<Part> partOf(Values.size());
+        std::vector<std::size_t> sizes(parts);
+        for (std::size_t i = 0; i < Values.size(); ++i) {
+            const std::uint64_t c = CellOf(Values[i]);
+            const std::size_t j = PartOf(Bounds, c);
+            partOf[i] = Part(j);
+            ++sizes[j];
+            if (belowEdge(c, j)) ++sizes[j - 1];
+            if (aboveEdge(c, j)) ++sizes[j + 1];
+        }
+        for (std::size_t j = 0; j < parts; ++j) split[j].reserve(sizes[j]);
+        for (std::size_t i = 0; i < Values.size(); ++i) {
+            const std::uint64_t c = CellOf(Values[i]);
+            const std::size_t j = partOf[i];
+            split[j].push_back(c);
+            if (belowEdge(c, j)) split[j - 1].push_back(c);
+            if (aboveEdge(c, j)) split[j + 1].push_back(c);
+        }
+    };
+    if (parts <= 0x10000)
+        fill(std::uint16_t());
+    else
+        fill(std::uint32_t());
     return split;
 }
 

@@ -26,41 +26,47 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch);
 
 // One step of a most-significant-digit-first radix sort of unsigned integer keys, which
 // moves the keys between the data and a scratch area of the same size: the keys are
-// counted by their 8-bit digit at `shift` and scattered into their buckets in the other
-// area, and each bucket is then sorted by RadixSort, the two areas changing roles. The
-// sorted keys end in `data` or, with `toScratch`, in `scratch`.
+// counted by their digit of `bits` bits (at most 8) at `shift` and scattered into their
+// buckets in the other area, and each bucket is then sorted by RadixSort, the two areas
+// changing roles. The sorted keys end in `data` or, with `toScratch`, in `scratch`.
 template <class K>
-void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, bool toScratch) {
-    std::array<std::size_t, 256> count{};
-    for (std::size_t i = 0; i < n; ++i) ++count[unsigned(data[i] >> shift) & 0xFF];
+void ScatterByDigit(K* data, K* scratch, std::size_t n, int shift, int bits, bool toScratch) {
+    const std::size_t buckets = std::size_t(1) << bits, mask = buckets - 1;
+    std::array<std::size_t, 256> count;
+    std::fill_n(count.begin(), buckets, 0);
+    for (std::size_t i = 0; i < n; ++i) ++count[std::size_t(data[i] >> shift) & mask];
     std::array<std::size_t, 256> next;
     std::size_t sum = 0;
-    for (std::size_t b = 0; b < 256; ++b) {
+    for (std::size_t b = 0; b < buckets; ++b) {
         next[b] = sum;
         sum += count[b];
     }
-    for (std::size_t i = 0; i < n; ++i) scratch[next[unsigned(data[i] >> shift) & 0xFF]++] = data[i];
+    for (std::size_t i = 0; i < n; ++i) scratch[next[std::size_t(data[i] >> shift) & mask]++] = data[i];
     std::size_t start = 0;
-    for (std::size_t b = 0; b < 256; ++b) {
+    for (std::size_t b = 0; b < buckets; ++b) {
         if (count[b] != 0) RadixSort(scratch + start, data + start, count[b], !toScratch);
         start += count[b];
     }
 }
 
 // Sorts the keys at `data` into `data` or, with `toScratch`, into `scratch`: small
-// groups by insertion, larger ones by ScatterByDigit on the eight highest bits in which
-// they differ, found with one pass over them (so that a run of equal keys costs one pass
-// and no digit is counted for nothing).
+// groups by insertion, larger ones by ScatterByDigit on the highest bits in which they
+// differ, found with one pass over them (so that a run of equal keys costs one pass and
+// no digit is counted for nothing). The digit has 8 bits, or fewer for a group of under
+// 4096 keys: enough for buckets of about 16, no more counters than keys.
 template <class K>
 void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
-    constexpr std::size_t Small = 48;
+    constexpr std::size_t Small = 16;
     if (n > Small) {
         K any = 0, all = ~K(0);
         for (std::size_t i = 0; i < n; ++i) {
             any |= data[i];
             all &= data[i];
         }
-        if (any != all) return ScatterByDigit(data, scratch, n, std::max(HighestBit(any ^ all) - 7, 0), toScratch);
+        if (any != all) {
+            const int bits = std::min(int(std::bit_width(n >> 2)), 8);
+            return ScatterByDigit(data, scratch, n, std::max(HighestBit(any ^ all) + 1 - bits, 0), bits, toScratch);
+        }
     } else {
         for (std::size_t i = 1; i < n; ++i) {
             const K x = data[i];
