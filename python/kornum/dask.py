@@ -124,10 +124,29 @@ def _persisted(chunks: List[Any]) -> List[Any]:
     return client.persist(chunks)
 
 
+def _busy(parts: List[Any]) -> Any:
+    """The busy cells of all parts, ascending, and the number of values they hold."""
+    return np.concatenate([cells for cells, _ in parts]), sum(count for _, count in parts)
+
+
+def _few_candidates(values: np.ndarray, busy: Any) -> Optional[np.ndarray]:
+    """The values of the busy cells, or None when all chunks together have too many for
+    one task."""
+    cells, count = busy
+    return _kornum.mode_candidates(values, cells) if count <= GATHER_LIMIT else None
+
+
+def _runs_of_few(candidates: List[Optional[np.ndarray]]) -> Any:
+    if any(c is None for c in candidates):
+        return None
+    return _kornum.append_runs([_kornum.run_summary(_concatenate(candidates))])
+
+
 def _mode(chunks: List[Any], bounds: List[Any], n: int, progress: bool) -> Any:
     """Whether the values have a mode, and the mode: the runs of equal neighbours of each
     range of keys, from the values of the cells the filter finds busy (all values when
-    there are few, or when the tolerance is too coarse for cells)."""
+    there are few, or when the tolerance is too coarse for cells). When the busy cells
+    hold few values (the usual case), one graph does it all and one task takes the runs."""
     import dask
 
     candidates = chunks
@@ -135,13 +154,13 @@ def _mode(chunks: List[Any], bounds: List[Any], n: int, progress: bool) -> Any:
     if cells is not None and n > GATHER_LIMIT:
         limits = [0] + cells + [2**64 - 1]
         split = [dask.delayed(_kornum.split_cells, nout=len(cells) + 1)(c, cells) for c in chunks]
-        busy = _compute(progress, *[dask.delayed(_kornum.busy_cells)([s[i] for s in split], limits[i], limits[i + 1])
+        busy = dask.delayed(_busy)([dask.delayed(_kornum.busy_cells)([s[i] for s in split], limits[i], limits[i + 1])
                                     for i in range(len(cells) + 1)])
-        busy_cells = dask.delayed(np.concatenate([b for b, _ in busy]))
+        few = dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks])
+        result, (busy_cells, _) = _compute(progress, few, busy)
+        if result is not None:
+            return result
         candidates = [dask.delayed(_kornum.mode_candidates)(c, busy_cells) for c in chunks]
-        if sum(count for _, count in busy) <= GATHER_LIMIT:
-            runs = dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)(candidates))
-            return _compute(progress, dask.delayed(_kornum.append_runs)([runs]))[0]
     splits = [dask.delayed(_kornum.split_by_range, nout=len(bounds) + 1)(c, bounds) for c in candidates]
     runs = [dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)([s[i] for s in splits]))
             for i in range(len(bounds) + 1)]
