@@ -19,6 +19,7 @@ namespace {
 using Kornumglobals::Integer;
 using Kornumglobals::PackedFloat;
 using Kornumglobals::TKorFloatVector;
+using Kornumglobals::detail::KeyBuffer;
 using Kornumglobals::detail::RadixSort;
 
 // A canonical, non-NaN Float as a 79-bit unsigned integer whose order is the numeric
@@ -98,22 +99,6 @@ bool SortsUniquely(const TKorFloatVector& V, KeySpread& spread) {
     spread = {any, all};
     return !unordered && !(positiveZero && negativeZero);
 }
-
-// Uninitialised room for n keys, in the vectors' storage (huge pages for a large one).
-template <class K>
-class KeyBuffer {
-public:
-    explicit KeyBuffer(std::size_t n)
-        : bytes_(sizeof(K) * n), keys_(static_cast<K*>(Kornumglobals::AllocateVectorStorage(bytes_, alignof(K)))) {}
-    ~KeyBuffer() { Kornumglobals::FreeVectorStorage(keys_, bytes_, alignof(K)); }
-    KeyBuffer(const KeyBuffer&) = delete;
-    KeyBuffer& operator=(const KeyBuffer&) = delete;
-    K* get() const noexcept { return keys_; }
-
-private:
-    std::size_t bytes_;
-    K* keys_;
-};
 
 // The number of key bits from the highest that differs between two keys down; 0 when
 // all the keys are the same.

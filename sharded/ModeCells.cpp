@@ -127,18 +127,20 @@ std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint
                                      std::uint64_t High, Int64& Count) {
     std::size_t total = 0;
     for (const auto& piece : Pieces) total += piece.size();
-    std::vector<std::uint64_t> cells, spare(total);
-    cells.reserve(total);
-    for (const auto& piece : Pieces) cells.insert(cells.end(), piece.begin(), piece.end());
-    Kornumglobals::detail::RadixSort(cells.data(), spare.data(), total, false);
+    // The cells of all pieces, sorted, in the vectors' storage (huge pages: a part is large).
+    const Kornumglobals::detail::KeyBuffer<std::uint64_t> buffer(total), spare(total);
+    std::uint64_t* const cells = buffer.get();
+    std::size_t at = 0;
+    for (const auto& piece : Pieces) at = std::size_t(std::copy(piece.begin(), piece.end(), cells + at) - cells);
+    Kornumglobals::detail::RadixSort(cells, spare.get(), total, false);
     std::vector<std::uint64_t> busy;
     Count = 0;
     // Each cell of the part with how many values it holds, and its neighbours' cells.
-    for (std::size_t i = 0; i < cells.size();) {
+    for (std::size_t i = 0; i < total;) {
         std::size_t j = i + 1;
-        while (j < cells.size() && cells[j] == cells[i]) ++j;
+        while (j < total && cells[j] == cells[i]) ++j;
         const std::uint64_t c = cells[i];
-        const bool company = j - i > 1 || (i > 0 && cells[i - 1] + 1 == c) || (j < cells.size() && cells[j] == c + 1);
+        const bool company = j - i > 1 || (i > 0 && cells[i - 1] + 1 == c) || (j < total && cells[j] == c + 1);
         if (c >= Low && c < High && company) {
             busy.push_back(c);
             Count += Int64(j - i);

@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include <kornum/KorVector.h>
+
 namespace Kornumglobals::detail {
 
 __extension__ typedef unsigned __int128 UInt128;  // GCC's 128-bit integer
@@ -77,5 +79,21 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
     }
     if (toScratch) std::copy(data, data + n, scratch);
 }
+
+// Uninitialised room for n keys, in the vectors' storage (huge pages for a large one).
+template <class K>
+class KeyBuffer {
+public:
+    explicit KeyBuffer(std::size_t n)
+        : bytes_(sizeof(K) * n), keys_(static_cast<K*>(Kornumglobals::AllocateVectorStorage(bytes_, alignof(K)))) {}
+    ~KeyBuffer() { Kornumglobals::FreeVectorStorage(keys_, bytes_, alignof(K)); }
+    KeyBuffer(const KeyBuffer&) = delete;
+    KeyBuffer& operator=(const KeyBuffer&) = delete;
+    K* get() const noexcept { return keys_; }
+
+private:
+    std::size_t bytes_;
+    K* keys_;
+};
 
 }  // namespace Kornumglobals::detail
