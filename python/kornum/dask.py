@@ -87,15 +87,22 @@ def _client() -> Any:
         return None
 
 
-def _compute(progress: bool, *tasks: Any) -> Any:
-    """The results of the tasks, on the current client or Dask's local scheduler; with
-    progress, Dask's progress bar on standard error."""
+def _submit(*tasks: Any) -> Any:
+    """The tasks started on the current client (they run while the caller goes on), or
+    kept for Dask's local scheduler when there is none."""
+    client = _client()
+    return (client, client.compute(list(tasks)) if client is not None else tasks)
+
+
+def _gather(progress: bool, submitted: Any) -> Any:
+    """The results of submitted tasks; with progress, Dask's progress bar on standard
+    error."""
     import contextlib
     import sys
 
     import dask
 
-    client = _client()
+    client, tasks = submitted
     if client is None:
         if not progress:
             return dask.compute(*tasks)
@@ -103,14 +110,18 @@ def _compute(progress: bool, *tasks: Any) -> Any:
 
         with ProgressBar(out=sys.stderr):
             return dask.compute(*tasks)
-    futures = client.compute(list(tasks))
     if progress:
         from distributed import progress as show
 
         with contextlib.redirect_stdout(sys.stderr):
-            show(futures)
+            show(tasks)
         sys.stderr.write("\n")
-    return tuple(client.gather(futures))
+    return tuple(client.gather(tasks))
+
+
+def _compute(progress: bool, *tasks: Any) -> Any:
+    """The results of the tasks, on the current client or Dask's local scheduler."""
+    return _gather(progress, _submit(*tasks))
 
 
 def _persisted(chunks: List[Any]) -> List[Any]:
@@ -142,22 +153,32 @@ def _runs_of_few(candidates: List[Optional[np.ndarray]]) -> Any:
     return _kornum.append_runs([_kornum.run_summary(_concatenate(candidates))])
 
 
-def _mode(chunks: List[Any], bounds: List[Any], n: int, progress: bool) -> Any:
+def _start_mode(chunks: List[Any], bounds: List[Any], n: int) -> Any:
+    """The mode's first graph started: cells, busy cells and, when those hold few values
+    (the usual case), the candidates and their runs in one task. None when there are few
+    values or the tolerance is too coarse for cells."""
+    import dask
+
+    cells = _kornum.cell_bounds(bounds)
+    if cells is None or n <= GATHER_LIMIT:
+        return None
+    limits = [0] + cells + [2**64 - 1]
+    split = [dask.delayed(_kornum.split_cells, nout=len(cells) + 1)(c, cells) for c in chunks]
+    busy = dask.delayed(_busy)([dask.delayed(_kornum.busy_cells)([s[i] for s in split], limits[i], limits[i + 1])
+                                for i in range(len(cells) + 1)])
+    few = dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks])
+    return _submit(few, busy)
+
+
+def _finish_mode(started: Any, chunks: List[Any], bounds: List[Any], progress: bool) -> Any:
     """Whether the values have a mode, and the mode: the runs of equal neighbours of each
-    range of keys, from the values of the cells the filter finds busy (all values when
-    there are few, or when the tolerance is too coarse for cells). When the busy cells
-    hold few values (the usual case), one graph does it all and one task takes the runs."""
+    range of keys, from the values of the cells the filter found busy (all values when
+    there are few, or when the tolerance is too coarse for cells)."""
     import dask
 
     candidates = chunks
-    cells = _kornum.cell_bounds(bounds)
-    if cells is not None and n > GATHER_LIMIT:
-        limits = [0] + cells + [2**64 - 1]
-        split = [dask.delayed(_kornum.split_cells, nout=len(cells) + 1)(c, cells) for c in chunks]
-        busy = dask.delayed(_busy)([dask.delayed(_kornum.busy_cells)([s[i] for s in split], limits[i], limits[i + 1])
-                                    for i in range(len(cells) + 1)])
-        few = dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks])
-        result, (busy_cells, _) = _compute(progress, few, busy)
+    if started is not None:
+        result, (busy_cells, _) = _gather(progress, started)
         if result is not None:
             return result
         candidates = [dask.delayed(_kornum.mode_candidates)(c, busy_cells) for c in chunks]
@@ -212,7 +233,19 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
         finer.update((request[0], count) for request, count in zip(asked, counts) if request in heavy)
         return counts[:len(requests)]
 
+    # The mode's graph starts as soon as its ranges are known, and runs on the cluster
+    # beside the selection's passes.
+    mode_bounds: Optional[List[Any]] = None
+    mode_started = None
+
+    def start_mode() -> None:
+        nonlocal mode_bounds, mode_started
+        if mode and mode_bounds is None and all(h[0] in finer for h in heavy):
+            mode_bounds = _kornum.range_bounds(tops[0], sorted(finer.items()), parts)
+            mode_started = _start_mode(chunks, mode_bounds, n)
+
     selection = _kornum.RankSelection(n, _kornum.report_ranks(n), GATHER_LIMIT)
+    start_mode()
     while not selection.done():
         if selection.gathering():
             prefixes = selection.gather_prefixes()
@@ -222,13 +255,14 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
             selection.narrow(tops)  # the first pass counted these already
         else:
             selection.narrow(counted(selection.requests()))
+        start_mode()
 
     mode_exists, mode_value = False, 0.0
     if mode:
-        if any(h[0] not in finer for h in heavy):
+        if mode_bounds is None:
             counted([])
-        bounds = _kornum.range_bounds(tops[0], sorted(finer.items()), parts)
-        mode_exists, mode_value = _mode(chunks, bounds, n, progress)
+            start_mode()
+        mode_exists, mode_value = _finish_mode(mode_started, chunks, mode_bounds, progress)
     result = _kornum.ShardedSummary(summary, bool(population), selection.values(), mode_exists, mode_value)
     description = Description(result, bool(population))
     if not mode:
