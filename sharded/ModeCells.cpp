@@ -38,21 +38,27 @@ namespace {
 // The cell of the magnitude with biased exponent e and significand m, counted up from 0:
 // 2^fine cells of width 2^-fine below 1, then 2^(63 - shift) cells in each binary order
 // of magnitude from 1 up, +infinity and NaN above them all.
-std::uint64_t MagnitudeCell(int e, std::uint64_t m, int shift, int fine) noexcept {
+[[gnu::always_inline]] inline std::uint64_t MagnitudeCell(int e, std::uint64_t m, int shift, int fine) noexcept {
     if (e >= Bias) return (std::uint64_t(1) << fine) + (std::uint64_t(e - Bias) << (63 - shift)) + ((m & ~IntegerBit) >> shift);
     const int right = Bias + 63 - fine - std::max(e, 1);  // |x| * 2^fine = m >> right
     return right >= 64 ? 0 : m >> right;
 }
 
-std::uint64_t Cell(std::uint16_t signExponent, std::uint64_t m, int shift, int fine) noexcept {
+[[gnu::always_inline]] inline std::uint64_t Cell(std::uint16_t signExponent, std::uint64_t m, int shift,
+                                                  int fine) noexcept {
     const std::uint64_t g = MagnitudeCell(signExponent & 0x7fff, m, shift, fine);
     return signExponent & 0x8000 ? Middle - 1 - g : Middle + g;
 }
 
-// The number of bounds at or below c, by a binary search without branches on the data
-// (conditional moves): the parts of random values are not predictable.
-std::size_t PartOf(const std::vector<std::uint64_t>& bounds, std::uint64_t c) noexcept {
-    if (bounds.empty()) return 0;
+// The number of bounds at or below c, without branches on the data (the parts of random
+// values are not predictable): by counting when the bounds are few, else by a binary
+// search with conditional moves.
+[[gnu::always_inline]] inline std::size_t PartOf(const std::vector<std::uint64_t>& bounds, std::uint64_t c) noexcept {
+    if (bounds.size() <= 32) {
+        std::size_t below = 0;
+        for (const std::uint64_t b : bounds) below += b <= c;
+        return below;
+    }
     const std::uint64_t* base = bounds.data();
     for (std::size_t size = bounds.size(); size > 1;) {
         const std::size_t half = size / 2;
@@ -62,15 +68,17 @@ std::size_t PartOf(const std::vector<std::uint64_t>& bounds, std::uint64_t c) no
     return std::size_t(base - bounds.data()) + (*base <= c);
 }
 
-}  // namespace
-
-std::uint64_t TKorModeCells::CellOf(const Float& X) const noexcept {
+[[gnu::always_inline]] inline std::uint64_t CellAt(const Float& X, int shift, int fine) noexcept {
     std::uint64_t m;
     std::uint16_t signExponent;
     std::memcpy(&m, &X, 8);
     std::memcpy(&signExponent, reinterpret_cast<const unsigned char*>(&X) + 8, 2);
-    return Cell(signExponent, m, shift_, fine_);
+    return Cell(signExponent, m, shift, fine);
 }
+
+}  // namespace
+
+std::uint64_t TKorModeCells::CellOf(const Float& X) const noexcept { return CellAt(X, shift_, fine_); }
 
 std::vector<std::uint64_t> TKorModeCells::Bounds(const std::vector<TKorKey>& KeyBounds) const {
     std::vector<std::uint64_t> bounds;
@@ -87,39 +95,21 @@ std::vector<std::uint64_t> TKorModeCells::Bounds(const std::vector<TKorKey>& Key
     return bounds;
 }
 
-// Each value's part first (the cells are cheap to compute again, the parts are not),
-// then the parts filled at their final sizes.
+// One pass, the parts reserved at their expected share (they grow if a shard's values
+// crowd into a few).
 std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const Float> Values,
                                                                   const std::vector<std::uint64_t>& Bounds) const {
     const std::size_t parts = Bounds.size() + 1;
     std::vector<std::vector<std::uint64_t>> split(parts);
-    // A cell at the edge of a part is also a neighbour in the part beside it.
-    const auto belowEdge = [&](std::uint64_t c, std::size_t j) { return j > 0 && c == Bounds[j - 1]; };
-    const auto aboveEdge = [&](std::uint64_t c, std::size_t j) { return j + 1 < parts && c + 1 == Bounds[j]; };
-    const auto fill = [&]<class Part>(Part) {
-        std::vector<Part> partOf(Values.size());
-        std::vector<std::size_t> sizes(parts);
-        for (std::size_t i = 0; i < Values.size(); ++i) {
-            const std::uint64_t c = CellOf(Values[i]);
-            const std::size_t j = PartOf(Bounds, c);
-            partOf[i] = Part(j);
-            ++sizes[j];
-            if (belowEdge(c, j)) ++sizes[j - 1];
-            if (aboveEdge(c, j)) ++sizes[j + 1];
-        }
-        for (std::size_t j = 0; j < parts; ++j) split[j].reserve(sizes[j]);
-        for (std::size_t i = 0; i < Values.size(); ++i) {
-            const std::uint64_t c = CellOf(Values[i]);
-            const std::size_t j = partOf[i];
-            split[j].push_back(c);
-            if (belowEdge(c, j)) split[j - 1].push_back(c);
-            if (aboveEdge(c, j)) split[j + 1].push_back(c);
-        }
-    };
-    if (parts <= 0x10000)
-        fill(std::uint16_t());
-    else
-        fill(std::uint32_t());
+    for (auto& part : split) part.reserve(Values.size() / parts + Values.size() / parts / 8 + 16);
+    for (const Float& x : Values) {
+        const std::uint64_t c = CellAt(x, shift_, fine_);
+        const std::size_t j = PartOf(Bounds, c);
+        split[j].push_back(c);
+        // A cell at the edge of a part is also a neighbour in the part beside it.
+        if (j > 0 && c == Bounds[j - 1]) split[j - 1].push_back(c);
+        if (j + 1 < parts && c + 1 == Bounds[j]) split[j + 1].push_back(c);
+    }
     return split;
 }
 
@@ -166,7 +156,7 @@ std::vector<Float> TKorModeCells::Candidates(std::span<const Float> Values, std:
         table[s] = c;
     }
     for (const Float& x : Values) {
-        const std::uint64_t c = CellOf(x);
+        const std::uint64_t c = CellAt(x, shift_, fine_);
         for (std::size_t s = slot(c); table[s] != 0; s = (s + 1) & mask)
             if (table[s] == c) {
                 found.push_back(x);
