@@ -10,7 +10,7 @@
 ///   quartiles), found by counting the prefixes of an order-preserving key of each value
 ///   (`PrefixCounts`) and narrowing to the buckets that hold the ranks, until the few
 ///   candidates left are gathered (`CollectPrefixes`).
-/// - `TKorModeCells` (two passes, moves 4 bytes a value): the values that can be in a run
+/// - `TKorModeCells` (two passes, moves 8 bytes a value): the values that can be in a run
 ///   of equal neighbours, found by counting cells of the number line without moving the
 ///   values themselves.
 /// - `TKorRunSummary` (moves those values once): the mode, from the runs of equal
@@ -187,23 +187,13 @@ std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
 /// key is at least Bounds[i - 1] and below Bounds[i].
 std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, const std::vector<TKorKey>& Bounds);
 
-/// The parts of the mode's filter (`TKorModeCells::Parts`): Bounds[j - 1] is the first
-/// cell of part j; the part numbers its cells in 32 bits as (cell - Bases[j]) >> Merged[j].
-struct TKorCellParts {
-    std::vector<std::uint64_t> Bounds;
-    std::vector<std::uint64_t> Bases;
-    std::vector<int> Merged;
-};
-
 /// The filter of the mode. The number line is cut into cells so narrow that two values
 /// `Kornummath::SameFloat` calls the same lie in one cell or in two neighbouring ones (cells
 /// of 2^s units in the last place above 1 in magnitude, of a fixed width 2^-w below it,
 /// both at least four tolerances wide), numbered in ascending order. A value alone in its
 /// cell and both neighbours is in no run of more than one value, so only the values in the
-/// other cells, the busy ones, matter to the mode: counting the cells (4 bytes a value, no
-/// values moved) finds them, and only they go on to `TKorRunSummary`. The cells are split
-/// into parts, one task each, which number them in 32 bits, merging neighbouring cells
-/// where a part spans more than 2^32 (merged cells only find more values busy).
+/// other cells, the busy ones, matter to the mode: counting the cells (8 bytes a value, no
+/// values moved) finds them, and only they go on to `TKorRunSummary`.
 class TKorModeCells {
 public:
     /// The cells for the tolerance `KorTolerance` has now.
@@ -213,25 +203,28 @@ public:
     bool Usable() const noexcept { return shift_ > 0; }
     /// The number of X's cell (NaN after +infinity, -NaN before -infinity).
     std::uint64_t CellOf(const Float& X) const noexcept;
-    /// The parts for range bounds (from `RangeBounds`) and the least and greatest value
-    /// (not NaN) of all shards.
-    TKorCellParts Parts(const std::vector<TKorKey>& KeyBounds, Float Minimum, Float Maximum) const;
-    /// The cells of Values (but NaN, never the same as anything) split into Parts: part j
-    /// holds its own cells and, to judge its edge cells, those just outside it.
-    std::vector<std::vector<std::uint32_t>> SplitCells(std::span<const Float> Values, const TKorCellParts& Parts) const;
-    /// The values of Values whose cell is in Busy (part << 32 | cell in the part, ascending).
-    std::vector<Float> Candidates(std::span<const Float> Values, const TKorCellParts& Parts,
-                                  std::span<const std::uint64_t> Busy) const;
+    /// Range bounds (from `RangeBounds`) as the ascending distinct cells that start the
+    /// second and later of the parts counted by `SplitCells`.
+    std::vector<std::uint64_t> Bounds(const std::vector<TKorKey>& KeyBounds) const;
+    /// The cells of Values (but NaN, never the same as anything) split by Bounds: part i
+    /// holds the cells from Bounds[i - 1] up to
+    /// Bounds[i] and, to judge its edge cells, the cells just outside it (Bounds[i - 1] - 1
+    /// and Bounds[i]).
+    std::vector<std::vector<std::uint64_t>> SplitCells(std::span<const Float> Values,
+                                                       const std::vector<std::uint64_t>& Bounds) const;
+    /// The values of Values whose cell is in Busy (ascending).
+    std::vector<Float> Candidates(std::span<const Float> Values, std::span<const std::uint64_t> Busy) const;
 
 private:
     int shift_ = 0;  // cells of 2^shift_ units in the last place for magnitudes of 1 and above
     int fine_ = 0;   // cells of 2^-fine_ below 1
 };
 
-/// The busy cells of the pieces of one part of `SplitCells` (one piece a shard),
-/// ascending: the cells that hold two values or more, or one value with another in a
-/// neighbouring cell. Count is set to the number of values they hold.
-std::vector<std::uint32_t> BusyCells(const std::vector<std::span<const std::uint32_t>>& Pieces, Int64& Count);
+/// The busy cells from Low up to High of the pieces of one part of `SplitCells` (one
+/// piece a shard), ascending: the cells that hold two values or more, or one value with
+/// another in a neighbouring cell. Count is set to the number of values they hold.
+std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint64_t>>& Pieces, std::uint64_t Low,
+                                     std::uint64_t High, Int64& Count);
 
 /// The ranks the report reads for N values: those of the median and of the two quartile
 /// positions (plus-one-half rule), distinct and ascending.

@@ -87,8 +87,8 @@ std::uint64_t TKorModeCells::CellOf(const Float& X) const noexcept {
     return cell;
 }
 
-TKorCellParts TKorModeCells::Parts(const std::vector<TKorKey>& KeyBounds, Float Minimum, Float Maximum) const {
-    TKorCellParts parts;
+std::vector<std::uint64_t> TKorModeCells::Bounds(const std::vector<TKorKey>& KeyBounds) const {
+    std::vector<std::uint64_t> bounds;
     for (const TKorKey& key : KeyBounds) {
         // The stored bits of the key. A positive bound at the start of a binary order of
         // magnitude has no integer bit: it counts as the first value of that order.
@@ -97,62 +97,49 @@ TKorCellParts TKorModeCells::Parts(const std::vector<TKorKey>& KeyBounds, Float 
         std::uint64_t m = negative ? ~key.Low : key.Low;
         if (!negative && signExponent != 0 && !(m & IntegerBit)) m = IntegerBit;
         const std::uint64_t cell = Cell(signExponent, m, shift_, fine_);
-        if (cell > CellOf(Minimum) && cell <= CellOf(Maximum) && (parts.Bounds.empty() || cell > parts.Bounds.back()))
-            parts.Bounds.push_back(cell);
+        if (bounds.empty() || cell > bounds.back()) bounds.push_back(cell);
     }
-    // Each part numbers its cells from the one below its first (a neighbour from the part
-    // below) up to the first of the next part (a neighbour from above), in 32 bits:
-    // merged 2^k at a time where the part spans more cells than that.
-    const std::size_t count = parts.Bounds.size() + 1;
-    for (std::size_t j = 0; j < count; ++j) {
-        const std::uint64_t base = (j == 0 ? CellOf(Minimum) : parts.Bounds[j - 1]) - 1;
-        const std::uint64_t top = j + 1 == count ? CellOf(Maximum) + 1 : parts.Bounds[j];
-        int merged = 0;
-        while (((top - base) >> merged) >= 0xffffffffu) ++merged;
-        parts.Bases.push_back(base);
-        parts.Merged.push_back(merged);
-    }
-    return parts;
+    return bounds;
 }
 
 // One pass, the parts reserved at their expected share (they grow if a shard's values
 // crowd into a few). NaN is never the same as anything, so it has no cell.
-std::vector<std::vector<std::uint32_t>> TKorModeCells::SplitCells(std::span<const Float> Values,
-                                                                  const TKorCellParts& Parts) const {
-    const std::vector<std::uint64_t>& bounds = Parts.Bounds;
-    const std::size_t count = bounds.size() + 1;
-    std::vector<std::vector<std::uint32_t>> split(count);
-    for (auto& part : split) part.reserve(Values.size() / count + Values.size() / count / 8 + 16);
-    const auto local = [&](std::uint64_t c, std::size_t j) { return std::uint32_t((c - Parts.Bases[j]) >> Parts.Merged[j]); };
+std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const Float> Values,
+                                                                  const std::vector<std::uint64_t>& Bounds) const {
+    const std::size_t parts = Bounds.size() + 1;
+    std::vector<std::vector<std::uint64_t>> split(parts);
+    for (auto& part : split) part.reserve(Values.size() / parts + Values.size() / parts / 8 + 16);
     for (const Float& x : Values) {
         std::uint64_t c;
         if (!CellAt(x, shift_, fine_, c)) continue;
-        const std::size_t j = PartOf(bounds, c);
-        split[j].push_back(local(c, j));
+        const std::size_t j = PartOf(Bounds, c);
+        split[j].push_back(c);
         // A cell at the edge of a part is also a neighbour in the part beside it.
-        if (j > 0 && c == bounds[j - 1]) split[j - 1].push_back(local(c, j - 1));
-        if (j + 1 < count && c + 1 == bounds[j]) split[j + 1].push_back(local(c, j + 1));
+        if (j > 0 && c == Bounds[j - 1]) split[j - 1].push_back(c);
+        if (j + 1 < parts && c + 1 == Bounds[j]) split[j + 1].push_back(c);
     }
     return split;
 }
 
-std::vector<std::uint32_t> BusyCells(const std::vector<std::span<const std::uint32_t>>& Pieces, Int64& Count) {
+std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint64_t>>& Pieces, std::uint64_t Low,
+                                     std::uint64_t High, Int64& Count) {
     std::size_t total = 0;
     for (const auto& piece : Pieces) total += piece.size();
     // The cells of all pieces, sorted, in the vectors' storage (huge pages: a part is large).
-    const Kornumglobals::detail::KeyBuffer<std::uint32_t> buffer(total), spare(total);
-    std::uint32_t* const cells = buffer.get();
+    const Kornumglobals::detail::KeyBuffer<std::uint64_t> buffer(total), spare(total);
+    std::uint64_t* const cells = buffer.get();
     std::size_t at = 0;
     for (const auto& piece : Pieces) at = std::size_t(std::copy(piece.begin(), piece.end(), cells + at) - cells);
     Kornumglobals::detail::RadixSort(cells, spare.get(), total, false);
-    std::vector<std::uint32_t> busy;
+    std::vector<std::uint64_t> busy;
     Count = 0;
-    // Each cell with how many values it holds, and its neighbours' cells.
+    // Each cell of the part with how many values it holds, and its neighbours' cells.
     for (std::size_t i = 0; i < total;) {
         std::size_t j = i + 1;
         while (j < total && cells[j] == cells[i]) ++j;
-        const std::uint32_t c = cells[i];
-        if (j - i > 1 || (i > 0 && cells[i - 1] + 1 == c) || (j < total && cells[j] == c + 1)) {
+        const std::uint64_t c = cells[i];
+        const bool company = j - i > 1 || (i > 0 && cells[i - 1] + 1 == c) || (j < total && cells[j] == c + 1);
+        if (c >= Low && c < High && company) {
             busy.push_back(c);
             Count += Int64(j - i);
         }
@@ -161,35 +148,30 @@ std::vector<std::uint32_t> BusyCells(const std::vector<std::span<const std::uint
     return busy;
 }
 
-// The busy cells (part << 32 | cell, plus one so that 0 marks an empty slot) in an
-// open-addressed table twice their number or more, behind a bitmap of 16 bits a busy
-// cell (in the first-level cache) that turns most values away before the table is read.
-std::vector<Float> TKorModeCells::Candidates(std::span<const Float> Values, const TKorCellParts& Parts,
-                                             std::span<const std::uint64_t> Busy) const {
+// The busy cells in an open-addressed table twice their number or more (cell numbers are
+// never 0, which marks an empty slot), behind a bitmap of 16 bits a busy cell that turns
+// most values away before the table is read.
+std::vector<Float> TKorModeCells::Candidates(std::span<const Float> Values, std::span<const std::uint64_t> Busy) const {
     std::vector<Float> found;
     if (Busy.empty()) return found;
     int bits = 4;
     while ((std::size_t(1) << bits) < 2 * Busy.size()) ++bits;
     const std::size_t mask = (std::size_t(1) << bits) - 1;
-    const auto hash = [](std::uint64_t k) { return k * 0x9E3779B97F4A7C15ULL; };
-    const auto slot = [&](std::uint64_t k) { return std::size_t(hash(k) >> (64 - bits)); };
-    const auto mark = [&](std::uint64_t k) { return std::size_t(hash(k) >> (64 - bits - 3)); };
+    const auto hash = [](std::uint64_t c) { return c * 0x9E3779B97F4A7C15ULL; };
+    const auto slot = [&](std::uint64_t c) { return std::size_t(hash(c) >> (64 - bits)); };
+    const auto mark = [&](std::uint64_t c) { return std::size_t(hash(c) >> (64 - bits - 3)); };
     std::vector<std::uint64_t> table(mask + 1, 0), marks((std::size_t(8) << bits) / 64, 0);
-    for (const std::uint64_t busy : Busy) {
-        const std::uint64_t k = busy + 1;
-        std::size_t s = slot(k);
-        while (table[s] != 0 && table[s] != k) s = (s + 1) & mask;
-        table[s] = k;
-        marks[mark(k) / 64] |= std::uint64_t(1) << (mark(k) % 64);
+    for (const std::uint64_t c : Busy) {
+        std::size_t s = slot(c);
+        while (table[s] != 0 && table[s] != c) s = (s + 1) & mask;
+        table[s] = c;
+        marks[mark(c) / 64] |= std::uint64_t(1) << (mark(c) % 64);
     }
     for (const Float& x : Values) {
         std::uint64_t c;
-        if (!CellAt(x, shift_, fine_, c)) continue;
-        const std::size_t j = PartOf(Parts.Bounds, c);
-        const std::uint64_t k = (std::uint64_t(j) << 32 | ((c - Parts.Bases[j]) >> Parts.Merged[j])) + 1;
-        if (!((marks[mark(k) / 64] >> (mark(k) % 64)) & 1)) continue;
-        for (std::size_t s = slot(k); table[s] != 0; s = (s + 1) & mask)
-            if (table[s] == k) {
+        if (!CellAt(x, shift_, fine_, c) || !((marks[mark(c) / 64] >> (mark(c) % 64)) & 1)) continue;
+        for (std::size_t s = slot(c); table[s] != 0; s = (s + 1) & mask)
+            if (table[s] == c) {
                 found.push_back(x);
                 break;
             }

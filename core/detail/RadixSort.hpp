@@ -1,4 +1,4 @@
-// A most-significant-digit-first radix sort of unsigned integer keys (32 to 128 bits),
+// A most-significant-digit-first radix sort of unsigned integer keys (64 or 128 bits),
 // the sort of the sorted copies of the report and of the passes over shards: it looks
 // only at the bits in which keys differ, so keys that share their high bits, or runs of
 // equal keys, cost few passes, and buckets small enough for the cache are finished there.
@@ -17,7 +17,6 @@ namespace Kornumglobals::detail {
 __extension__ typedef unsigned __int128 UInt128;  // GCC's 128-bit integer
 
 // The position of the highest set bit of x (not 0).
-inline int HighestBit(std::uint32_t x) { return 31 - std::countl_zero(x); }
 inline int HighestBit(std::uint64_t x) { return 63 - std::countl_zero(x); }
 inline int HighestBit(UInt128 x) {
     const std::uint64_t high = std::uint64_t(x >> 64);

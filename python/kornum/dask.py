@@ -138,17 +138,15 @@ def _persisted(chunks: List[Any]) -> List[Any]:
 
 
 def _busy(parts: List[Any]) -> Any:
-    """The busy cells of all parts as part << 32 | cell, ascending, and the number of
-    values they hold."""
-    tagged = [(np.uint64(j) << np.uint64(32)) | cells.astype(np.uint64) for j, (cells, _) in enumerate(parts)]
-    return np.concatenate(tagged), sum(count for _, count in parts)
+    """The busy cells of all parts, ascending, and the number of values they hold."""
+    return np.concatenate([cells for cells, _ in parts]), sum(count for _, count in parts)
 
 
-def _few_candidates(values: np.ndarray, parts: Any, busy: Any) -> Optional[np.ndarray]:
+def _few_candidates(values: np.ndarray, busy: Any) -> Optional[np.ndarray]:
     """The values of the busy cells, or None when all chunks together have too many for
     one task."""
     cells, count = busy
-    return _kornum.mode_candidates(values, parts, cells) if count <= FEW_CANDIDATES else None
+    return _kornum.mode_candidates(values, cells) if count <= FEW_CANDIDATES else None
 
 
 def _runs_of_few(candidates: List[Optional[np.ndarray]]) -> Any:
@@ -157,20 +155,21 @@ def _runs_of_few(candidates: List[Optional[np.ndarray]]) -> Any:
     return _kornum.append_runs([_kornum.run_summary(_concatenate(candidates))])
 
 
-def _start_mode(chunks: List[Any], bounds: List[Any], summary: bytes, n: int) -> Any:
+def _start_mode(chunks: List[Any], bounds: List[Any], n: int) -> Any:
     """The mode's first graph started: cells, busy cells and, when those hold few values
     (the usual case), the candidates and their runs in one task. None when there are few
     values or the tolerance is too coarse for cells."""
     import dask
 
-    parts = _kornum.cell_parts(bounds, summary)
-    if parts is None or n <= GATHER_LIMIT:
+    cells = _kornum.cell_bounds(bounds)
+    if cells is None or n <= GATHER_LIMIT:
         return None
-    count = len(parts[1])
-    split = [dask.delayed(_kornum.split_cells, nout=count)(c, parts) for c in chunks]
-    busy = dask.delayed(_busy)([dask.delayed(_kornum.busy_cells)([s[j] for s in split]) for j in range(count)])
-    few = dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, parts, busy) for c in chunks])
-    return parts, _submit(few, busy)
+    limits = [0] + cells + [2**64 - 1]
+    split = [dask.delayed(_kornum.split_cells, nout=len(cells) + 1)(c, cells) for c in chunks]
+    busy = dask.delayed(_busy)([dask.delayed(_kornum.busy_cells)([s[i] for s in split], limits[i], limits[i + 1])
+                                for i in range(len(cells) + 1)])
+    few = dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks])
+    return _submit(few, busy)
 
 
 def _finish_mode(started: Any, chunks: List[Any], bounds: List[Any], progress: bool) -> Any:
@@ -181,11 +180,10 @@ def _finish_mode(started: Any, chunks: List[Any], bounds: List[Any], progress: b
 
     candidates = chunks
     if started is not None:
-        parts, submitted = started
-        result, (busy_cells, _) = _gather(progress, submitted)
+        result, (busy_cells, _) = _gather(progress, started)
         if result is not None:
             return result
-        candidates = [dask.delayed(_kornum.mode_candidates)(c, parts, busy_cells) for c in chunks]
+        candidates = [dask.delayed(_kornum.mode_candidates)(c, busy_cells) for c in chunks]
     splits = [dask.delayed(_kornum.split_by_range, nout=len(bounds) + 1)(c, bounds) for c in candidates]
     runs = [dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)([s[i] for s in splits]))
             for i in range(len(bounds) + 1)]
@@ -246,7 +244,7 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
         nonlocal mode_bounds, mode_started
         if mode and mode_bounds is None and all(h[0] in finer for h in heavy):
             mode_bounds = _kornum.range_bounds(tops[0], sorted(finer.items()), parts)
-            mode_started = _start_mode(chunks, mode_bounds, summary, n)
+            mode_started = _start_mode(chunks, mode_bounds, n)
 
     selection = _kornum.RankSelection(n, _kornum.report_ranks(n), GATHER_LIMIT)
     start_mode()

@@ -32,23 +32,14 @@ py::array_t<Float> FromFloats(const std::vector<Float>& values) {
     return result;
 }
 
-// The mode filter's cells cross as arrays that own their vector, its parts as a tuple of
-// lists.
-using CellArray = py::array_t<std::uint32_t, py::array::c_style | py::array::forcecast>;
-using BusyArray = py::array_t<std::uint64_t, py::array::c_style | py::array::forcecast>;
-using CellPartsTuple = std::tuple<std::vector<std::uint64_t>, std::vector<std::uint64_t>, std::vector<int>>;
-template <class T>
-py::array_t<T> Owned(std::vector<T>&& items) {
-    auto* owned = new std::vector<T>(std::move(items));
-    py::capsule free(owned, [](void* p) { delete static_cast<std::vector<T>*>(p); });
-    return py::array_t<T>(py::ssize_t(owned->size()), owned->data(), free);
+// Cell numbers of the mode's filter cross as uint64 arrays that own their vector.
+using WordArray = py::array_t<std::uint64_t, py::array::c_style | py::array::forcecast>;
+py::array_t<std::uint64_t> FromWords(std::vector<std::uint64_t>&& words) {
+    auto* owned = new std::vector<std::uint64_t>(std::move(words));
+    py::capsule free(owned, [](void* p) { delete static_cast<std::vector<std::uint64_t>*>(p); });
+    return py::array_t<std::uint64_t>(py::ssize_t(owned->size()), owned->data(), free);
 }
-TKorCellParts Parts(const CellPartsTuple& parts) {
-    const auto& [bounds, bases, merged] = parts;
-    if (bases.size() != bounds.size() + 1 || merged.size() != bases.size())
-        ArgumentError(PyExc_ValueError, "parts", "must hold one base and one merge count more than bounds");
-    return {bounds, bases, merged};
-}
+std::span<const std::uint64_t> Words(const WordArray& a) { return {a.data(), std::size_t(a.size())}; }
 
 // Keys cross into Python as (high, low) pairs, prefix requests as (high, low, bits).
 using KeyTuple = std::pair<std::uint16_t, std::uint64_t>;
@@ -177,47 +168,44 @@ void BindSharded(py::module_& m) {
               for (const auto& part : split) parts.append(FromFloats(part));
               return parts;
           }, py::arg("values"), py::arg("bounds"));
-    m.def("cell_parts", [](const std::vector<KeyTuple>& bounds, const std::string& summary) -> py::object {
+    m.def("cell_bounds", [](const std::vector<KeyTuple>& bounds) -> std::optional<std::vector<std::uint64_t>> {
               const TKorModeCells cells;
-              if (!cells.Usable()) return py::none();
+              if (!cells.Usable()) return std::nullopt;
               std::vector<TKorKey> keys;
               for (const auto& [high, low] : bounds) keys.push_back({high, low});
-              const TKorShardSummary merged = TKorShardSummary::Deserialize(summary);
-              const TKorCellParts parts = cells.Parts(keys, merged.Minimum(), merged.Maximum());
-              return py::make_tuple(parts.Bounds, parts.Bases, parts.Merged);
-          }, py::arg("bounds"), py::arg("summary"),
-          "The mode filter's parts from range bounds and the merged summary; None when the tolerance allows no cells (internal).");
-    m.def("split_cells", [](py::handle values, const CellPartsTuple& parts) {
+              return cells.Bounds(keys);
+          }, py::arg("bounds"), "The mode filter's part bounds from range bounds; None when the tolerance allows no cells (internal).");
+    m.def("split_cells", [](py::handle values, const std::vector<std::uint64_t>& bounds) {
               const FloatArray array = ToFloatVector(values, "values");
-              std::vector<std::vector<std::uint32_t>> split;
+              std::vector<std::vector<std::uint64_t>> split;
               {
                   py::gil_scoped_release release;
-                  split = TKorModeCells().SplitCells(Span(array), Parts(parts));
+                  split = TKorModeCells().SplitCells(Span(array), bounds);
               }
-              py::list pieces;
-              for (auto& part : split) pieces.append(Owned(std::move(part)));
-              return pieces;
-          }, py::arg("values"), py::arg("parts"));
-    m.def("busy_cells", [](const std::vector<CellArray>& pieces) {
-              std::vector<std::span<const std::uint32_t>> spans;
-              for (const CellArray& piece : pieces) spans.push_back({piece.data(), std::size_t(piece.size())});
-              std::vector<std::uint32_t> busy;
+              py::list parts;
+              for (auto& part : split) parts.append(FromWords(std::move(part)));
+              return parts;
+          }, py::arg("values"), py::arg("bounds"));
+    m.def("busy_cells", [](const std::vector<WordArray>& pieces, std::uint64_t low, std::uint64_t high) {
+              std::vector<std::span<const std::uint64_t>> spans;
+              for (const WordArray& piece : pieces) spans.push_back(Words(piece));
+              std::vector<std::uint64_t> busy;
               Int64 count = 0;
               {
                   py::gil_scoped_release release;
-                  busy = BusyCells(spans, count);
+                  busy = BusyCells(spans, low, high, count);
               }
-              return py::make_tuple(Owned(std::move(busy)), count);
-          }, py::arg("pieces"));
-    m.def("mode_candidates", [](py::handle values, const CellPartsTuple& parts, const BusyArray& busy) {
+              return py::make_tuple(FromWords(std::move(busy)), count);
+          }, py::arg("pieces"), py::arg("low"), py::arg("high"));
+    m.def("mode_candidates", [](py::handle values, const WordArray& busy) {
               const FloatArray array = ToFloatVector(values, "values");
               std::vector<Float> found;
               {
                   py::gil_scoped_release release;
-                  found = TKorModeCells().Candidates(Span(array), Parts(parts), {busy.data(), std::size_t(busy.size())});
+                  found = TKorModeCells().Candidates(Span(array), Words(busy));
               }
               return FromFloats(found);
-          }, py::arg("values"), py::arg("parts"), py::arg("busy"));
+          }, py::arg("values"), py::arg("busy"));
     m.def("run_summary", [](py::handle values) {
               const FloatArray array = ToFloatVector(values, "values");
               std::string runs;

@@ -69,18 +69,20 @@ std::vector<KornumDescStats::TKorReportEntry> ShardedReport(const std::vector<st
     // The mode's filter: only the values of busy cells go on to the runs.
     const TKorModeCells cells;
     std::vector<std::vector<Float>> candidates = shards;
-    if (cells.Usable() && summary.Count() > 0) {
-        const TKorCellParts parts = cells.Parts(bounds, summary.Minimum(), summary.Maximum());
-        std::vector<std::vector<std::vector<std::uint32_t>>> split;
-        for (const auto& shard : shards) split.push_back(cells.SplitCells(shard, parts));
+    if (cells.Usable()) {
+        const std::vector<std::uint64_t> cellBounds = cells.Bounds(bounds);
+        std::vector<std::vector<std::vector<std::uint64_t>>> split;
+        for (const auto& shard : shards) split.push_back(cells.SplitCells(shard, cellBounds));
         std::vector<std::uint64_t> busy;
-        for (std::size_t j = 0; j < parts.Bases.size(); ++j) {
-            std::vector<std::span<const std::uint32_t>> pieces;
-            for (const auto& s : split) pieces.push_back(s[j]);
+        for (std::size_t i = 0; i <= cellBounds.size(); ++i) {
+            std::vector<std::span<const std::uint64_t>> pieces;
+            for (const auto& s : split) pieces.push_back(s[i]);
             Int64 count = 0;
-            for (const std::uint32_t c : BusyCells(pieces, count)) busy.push_back(std::uint64_t(j) << 32 | c);
+            const auto some = BusyCells(pieces, i == 0 ? 0 : cellBounds[i - 1],
+                                        i == cellBounds.size() ? ~std::uint64_t(0) : cellBounds[i], count);
+            busy.insert(busy.end(), some.begin(), some.end());
         }
-        for (std::size_t i = 0; i < shards.size(); ++i) candidates[i] = cells.Candidates(shards[i], parts, busy);
+        for (std::size_t i = 0; i < shards.size(); ++i) candidates[i] = cells.Candidates(shards[i], busy);
     }
     std::vector<std::vector<Float>> ranges(bounds.size() + 1);
     for (const auto& shard : candidates) {
@@ -313,26 +315,21 @@ TEST(ModeCells, SameValuesShareACellOrNeighbouringCells) {
 // Company across the edge of two parts is seen from both sides, and a lone value is not
 // busy even when its neighbour's cell is one step away but empty.
 TEST(ModeCells, BusyCellsSeeNeighboursAcrossPartEdges) {
-    const std::vector<std::uint32_t> left = {10, 20, 29, 40}, right = {30, 41, 60, 60};
+    const std::vector<std::uint64_t> left = {10, 20, 29, 40}, right = {30, 41, 60, 60};
     Int64 count = 0;
-    EXPECT_EQ(BusyCells({left, right}, count), (std::vector<std::uint32_t>{29, 30, 40, 41, 60}));
-    EXPECT_EQ(count, 6);
-    // SplitCells hands the edge cells to both parts, each numbered from the cell below
-    // the part's first.
+    EXPECT_EQ(BusyCells({left, right}, 0, 30, count), (std::vector<std::uint64_t>{29}));
+    EXPECT_EQ(count, 1);
+    // The same cells seen by the part from 30 on, which holds 29 only as a neighbour.
+    EXPECT_EQ(BusyCells({left, right}, 30, ~std::uint64_t(0), count), (std::vector<std::uint64_t>{30, 40, 41, 60}));
+    EXPECT_EQ(count, 5);
+    // SplitCells hands the edge cells to both parts.
     const TKorModeCells cells;
-    const std::uint64_t one = cells.CellOf(1), two = cells.CellOf(2), three = cells.CellOf(3);
-    const TKorCellParts parts{{two}, {one - 1, two - 1}, {0, 0}};
-    const auto split = cells.SplitCells(std::vector<Float>{1, 2, 3, NAN}, parts);
-    EXPECT_EQ(split[0], (std::vector<std::uint32_t>{1, std::uint32_t(two - one + 1)}));
-    EXPECT_EQ(split[1], (std::vector<std::uint32_t>{1, std::uint32_t(three - two + 1)}));
-    const TKorCellParts below{{two + 1}, {one - 1, two}, {0, 0}};
-    EXPECT_EQ(cells.SplitCells(std::vector<Float>{2}, below)[1], (std::vector<std::uint32_t>{0}));
-    // The cells of a part that spans more than 2^32 of them are merged, never wrapped.
-    const TKorCellParts wide = cells.Parts({}, -1e300L, 1e300L);
-    ASSERT_EQ(wide.Merged.size(), 1u);
-    EXPECT_GT(wide.Merged[0], 0);
-    const auto all = cells.SplitCells(std::vector<Float>{-1e300L, 0, 1e300L}, wide)[0];
-    EXPECT_TRUE(all[0] < all[1] && all[1] < all[2]);
+    const std::vector<std::uint64_t> bounds = {cells.CellOf(2)};
+    const auto split = cells.SplitCells(std::vector<Float>{1, 2, 3, NAN}, bounds);
+    EXPECT_EQ(split[0], (std::vector<std::uint64_t>{cells.CellOf(1), cells.CellOf(2)}));
+    EXPECT_EQ(split[1], (std::vector<std::uint64_t>{cells.CellOf(2), cells.CellOf(3)}));
+    const std::vector<std::uint64_t> edge = {cells.CellOf(2) + 1};
+    EXPECT_EQ(cells.SplitCells(std::vector<Float>{2}, edge)[1], (std::vector<std::uint64_t>{cells.CellOf(2)}));
 }
 
 TEST(ShardedReport, EqualsTheSingleProcessReport) {
@@ -363,8 +360,6 @@ TEST(ShardedReport, EqualsTheSingleProcessReport) {
     for (const Float at : {0.0L, 1.0L, 1e6L, -1.0L})
         for (int k = 0; k < 4; ++k) values.push_back(at + 0.6e-15L * k * std::max<Float>(1, std::fabs(at)));
     for (int k = 0; k < 5; ++k) values.push_back(3 + 2.5e-15L * k);
-    for (int k = 0; k < 2; ++k) values.push_back(1e300L * (1 + 0.5e-15L * k));  // far out: wide parts
-    values.push_back(-1e300L);
     for (const int shards : {1, 4, 13}) {
         const auto single = SingleReport(values, false);
         ExpectSameReport(single, ShardedReport(RandomShards(values, shards, rng), false, 8));
