@@ -47,17 +47,18 @@ Float ValueOf(TKorKey K) noexcept {
 namespace {
 
 // Calls under(i, key, x) for each value x and each request i whose prefix its key starts
-// with, in one pass over the values.
+// with, in one pass over the values; each test is a mask and a compare, no shifts.
 template <class Under>
 void ForEachUnderPrefix(std::span<const Float> values, const std::vector<TKorPrefixRequest>& requests, Under under) {
-    std::vector<u128> prefixes;
-    for (const TKorPrefixRequest& r : requests) prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
+    std::vector<u128> prefixes, masks;
+    for (const TKorPrefixRequest& r : requests) {
+        prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
+        masks.push_back(r.Bits == 0 ? 0 : ~u128(0) << (80 - r.Bits));
+    }
     for (const Float& x : values) {
         const u128 key = Wide(detail::KeyAt(&x));
-        for (std::size_t i = 0; i < requests.size(); ++i) {
-            const int bits = requests[i].Bits;
-            if (bits == 0 || (key >> (80 - bits)) == (prefixes[i] >> (80 - bits))) under(i, key, x);
-        }
+        for (std::size_t i = 0; i < requests.size(); ++i)
+            if ((key & masks[i]) == prefixes[i]) under(i, key, x);
     }
 }
 
