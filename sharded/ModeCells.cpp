@@ -128,9 +128,7 @@ std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint
     // The cells of all pieces, sorted, in the vectors' storage (huge pages: a part is large).
     const Kornumglobals::detail::KeyBuffer<std::uint64_t> buffer(total), spare(total);
     std::uint64_t* const cells = buffer.get();
-    std::size_t at = 0;
-    for (const auto& piece : Pieces) at = std::size_t(std::copy(piece.begin(), piece.end(), cells + at) - cells);
-    Kornumglobals::detail::RadixSort(cells, spare.get(), total, false);
+    Kornumglobals::detail::RadixSortPieces(Pieces, cells, spare.get());
     std::vector<std::uint64_t> busy;
     Count = 0;
     // Each cell of the part with how many values it holds, and its neighbours' cells.

@@ -9,6 +9,8 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <span>
+#include <vector>
 
 #include <kornum/KorVector.h>
 
@@ -78,6 +80,46 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
         }
     }
     if (toScratch) std::copy(data, data + n, scratch);
+}
+
+// Sorts the keys of several pieces into `data` (room for all of them, and `scratch` as
+// much): the first digit scatters straight from the pieces, which are never copied
+// together first. It has up to 11 bits: the areas are large, and in huge pages a wide
+// scatter costs no extra address translations, while it saves a pass further down.
+template <class K>
+void RadixSortPieces(const std::vector<std::span<const K>>& pieces, K* data, K* scratch) {
+    std::size_t n = 0;
+    K any = 0, all = ~K(0);
+    for (const auto& piece : pieces) {
+        for (const K k : piece) {
+            any |= k;
+            all &= k;
+        }
+        n += piece.size();
+    }
+    if (n == 0) return;
+    if (any == all) {
+        std::fill_n(data, n, any);
+        return;
+    }
+    const int bits = std::clamp(int(std::bit_width(n >> 4)), 1, 11);
+    const int shift = std::max(HighestBit(any ^ all) + 1 - bits, 0);
+    const std::size_t mask = (std::size_t(1) << bits) - 1;
+    std::vector<std::size_t> count(mask + 1, 0), next(mask + 1);
+    for (const auto& piece : pieces)
+        for (const K k : piece) ++count[std::size_t(k >> shift) & mask];
+    std::size_t sum = 0;
+    for (std::size_t b = 0; b <= mask; ++b) {
+        next[b] = sum;
+        sum += count[b];
+    }
+    for (const auto& piece : pieces)
+        for (const K k : piece) scratch[next[std::size_t(k >> shift) & mask]++] = k;
+    std::size_t start = 0;
+    for (std::size_t b = 0; b <= mask; ++b) {
+        if (count[b] != 0) RadixSort(scratch + start, data + start, count[b], true);
+        start += count[b];
+    }
 }
 
 // Uninitialised room for n keys, in the vectors' storage (huge pages for a large one).
