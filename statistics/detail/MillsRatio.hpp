@@ -708,7 +708,7 @@ inline constexpr SplitTable MillsSplit(MillsTaylor);
 inline Float MillsRatio(Float z) {
     if (z < 12) {
         const NearestNode node = NearestNodeOf<8>(z);
-        return EvenOddPolynomial<12>(MillsSplit[node.index], node.offset);
+        return EvenOddPolynomial<12, 4>(MillsSplit[node.index], node.offset);
     }
     // (-1)^k (2k - 1)!!, k = 0 .. 20.
     static constexpr Float Asymptotic[] = {

@@ -425,8 +425,10 @@ inline TailNearCentre UpperTailNearCentre(Float z) {
     const NearestNode node = NearestNodeOf<16>(z);
     const SplitFloat* t = NormalTailSplit[node.index];
     const Float h = node.offset, h2 = h * h;
-    const Float slope = (t[1].Value() + 2 * t[2].Value() * h) + (3 * t[3].Value() + 4 * t[4].Value() * h) * h2;
-    return {EvenOddPolynomial<11>(t, h), -slope};
+    // The high halves suffice for the density; sharing the full coefficients with the
+    // polynomial would hold them past the stack's eight registers.
+    const Float slope = (t[1].hi + 2 * t[2].hi * h) + (3 * t[3].hi + 4 * t[4].hi * h) * h2;
+    return {EvenOddPolynomial<11, 4>(t, h), -slope};
 }
 
 }  // namespace KornumStatistics::detail

@@ -54,17 +54,19 @@ struct SplitTable {
 
 // sum c[k] h^k for k = 0 .. Degree, as its even and odd halves in h^2: two chains of
 // half the length side by side, short enough for the eight registers of this format's
-// stack.
-template <int Degree>
+// stack. The coefficients from h^Short on are read to double precision only, one memory
+// operand each, where the caller's table makes their terms small enough for that.
+template <int Degree, int Short>
 inline Float EvenOddPolynomial(const SplitFloat* c, Float h) {
     constexpr int TopEven = Degree % 2 == 0 ? Degree : Degree - 1;
     constexpr int TopOdd = Degree % 2 == 1 ? Degree : Degree - 1;
+    const auto coefficient = [c](int k) { return k >= Short ? Float(c[k].hi) : c[k].Value(); };
     const Float h2 = h * h;
-    Float even = c[TopEven].Value(), odd = c[TopOdd].Value();
-#pragma GCC unroll 16
-    for (int k = TopEven - 2, j = TopOdd - 2; k >= 0 || j >= 1; k -= 2, j -= 2) {
-        if (k >= 0) even = even * h2 + c[k].Value();
-        if (j >= 1) odd = odd * h2 + c[j].Value();
+    Float even = coefficient(TopEven), odd = coefficient(TopOdd);
+#pragma GCC unroll 8
+    for (int n = 1; n <= TopEven / 2; ++n) {
+        even = even * h2 + coefficient(TopEven - 2 * n);
+        if (TopOdd - 2 * n >= 1) odd = odd * h2 + coefficient(TopOdd - 2 * n);
     }
     return even + odd * h;
 }
