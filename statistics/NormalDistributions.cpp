@@ -205,7 +205,8 @@ bool IsPowerOfTwo(Float StdDev) {
 }
 
 // The log-normal tails: the logarithm of X in two Floats, X <= 0 below the support.
-Tails LogNormalTails(Float Mean, Float StdDev, Float X) {
+// Inlined, like StandardTails, so that the three Floats are not returned through memory.
+[[gnu::always_inline]] inline Tails LogNormalTails(Float Mean, Float StdDev, Float X) {
     if (std::isnan(X)) return {X, X, X};
     if (X <= 0) return {0, 1, 0};
     if (std::isinf(X)) return {1, 0, 0};

@@ -53,13 +53,15 @@ Support SupportOf(const std::string& family) {
     return Support::HalfLine;
 }
 
-// One family function at one point, the family and function chosen once per call.
+// One family function at one point, the family and function chosen once per call. The
+// point is passed on by reference to the element of the input array: a Float stored from
+// a register for the call would stall the family's load of it.
 struct Point {
     const Family& family;
     Support support;
     Function function;
 
-    Float operator()(Float x, const Values& p) const {
+    Float operator()(const Float& x, const Values& p) const {
         if (function == Function::Ppf || function == Function::Isf) return Inverse(x, p);
         if (std::isnan(x)) return NaN;
         return family.discrete ? Discrete(x, p) : Continuous(x, p);
@@ -74,14 +76,14 @@ struct Point {
         }
     }
 
-    Float Inside(Float x, const Values& p) const {
+    Float Inside(const Float& x, const Values& p) const {
         return function == Function::Cdf ? family.less(x, p) : function == Function::Sf ? family.greater(x, p) : family.pdf(x, p);
     }
 
     Float Low(const Values& p) const { return support == Support::Bounded ? p[2] : support == Support::Line ? -Inf : 0; }
     Float High(const Values& p) const { return support == Support::Bounded ? p[3] : Inf; }
 
-    Float Continuous(Float x, const Values& p) const {
+    Float Continuous(const Float& x, const Values& p) const {
         const Float lo = Low(p), hi = High(p);
         const bool openLow = support == Support::OpenHalfLine || support == Support::FRatio;
         if (x == -Inf || x < lo || (openLow && x == lo)) {
@@ -93,7 +95,7 @@ struct Point {
         return Inside(x, p);
     }
 
-    Float Discrete(Float x, const Values& p) const {
+    Float Discrete(const Float& x, const Values& p) const {
         const Float k = std::floor(x);
         if (k < 0) return Outside(true);
         if (function == Function::Pdf && k != x) return 0;  // only whole k carry probability
@@ -102,7 +104,7 @@ struct Point {
         return Inside(k, p);
     }
 
-    Float Inverse(Float q, const Values& p) const {
+    Float Inverse(const Float& q, const Values& p) const {
         if (!(q >= 0 && q <= 1)) return NaN;
         const bool lower = function == Function::Ppf;
         if (!family.discrete && (q == 0 || q == 1)) return (q == 0) == lower ? Low(p) : High(p);

@@ -694,6 +694,8 @@ inline constexpr Float MillsTaylor[97][13] = {
     },
 };
 
+inline constexpr SplitTable MillsSplit(MillsTaylor);
+
 // R(z) for finite z >= 0, within about two ulps.
 //
 // Below 12: the Taylor series at the nearest node c, |z - c| <= 1/16, to the 12th power,
@@ -706,7 +708,7 @@ inline constexpr Float MillsTaylor[97][13] = {
 inline Float MillsRatio(Float z) {
     if (z < 12) {
         const NearestNode node = NearestNodeOf<8>(z);
-        return EvenOddPolynomial<12>(MillsTaylor[node.index], node.offset);
+        return EvenOddPolynomial<12, 4>(MillsSplit[node.index], node.offset);
     }
     // (-1)^k (2k - 1)!!, k = 0 .. 20.
     static constexpr Float Asymptotic[] = {

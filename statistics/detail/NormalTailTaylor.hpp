@@ -407,6 +407,8 @@ inline constexpr Float NormalTailTaylor[65][12] = {
     },
 };
 
+inline constexpr SplitTable NormalTailSplit(NormalTailTaylor);
+
 inline constexpr Float NormalTailTaylorLimit = 4;
 
 struct TailNearCentre {
@@ -421,10 +423,12 @@ struct TailNearCentre {
 // coefficients to the 4th power.
 inline TailNearCentre UpperTailNearCentre(Float z) {
     const NearestNode node = NearestNodeOf<16>(z);
-    const Float* t = NormalTailTaylor[node.index];
+    const SplitFloat* t = NormalTailSplit[node.index];
     const Float h = node.offset, h2 = h * h;
-    const Float slope = (t[1] + 2 * t[2] * h) + (3 * t[3] + 4 * t[4] * h) * h2;
-    return {EvenOddPolynomial<11>(t, h), -slope};
+    // The high halves suffice for the density; sharing the full coefficients with the
+    // polynomial would hold them past the stack's eight registers.
+    const Float slope = (t[1].hi + 2 * t[2].hi * h) + (3 * t[3].hi + 4 * t[4].hi * h) * h2;
+    return {EvenOddPolynomial<11, 4>(t, h), -slope};
 }
 
 }  // namespace KornumStatistics::detail
