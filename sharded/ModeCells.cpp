@@ -18,10 +18,10 @@ constexpr std::uint64_t IntegerBit = std::uint64_t(1) << 63;
 }  // namespace
 
 TKorModeCells::TKorModeCells() noexcept {
-    // SameFloat joins X < Y when Y - X <= T * max(1, |X|, |Y|). Above 1 that is under
-    // 2T * 2^(e+1) when 2^e <= |X| < 2^(e+1), 2^66 T units in the last place of X's binary
-    // order of magnitude; below 1 it is under 2T. Cells twice as wide leave room for the
-    // rounding of the test.
+    // SameFloat joins X < Y when Y - X <= T * max(1, |X|, |Y|). Above 1, with
+    // 2^e <= |X| < 2^(e+1), that is under T * 2^(e+2): 2^65 T units in the last place of
+    // X's binary order of magnitude. Below 1 it is under 2T. Cells twice as wide (2^66 T
+    // units, 4T) leave room for the rounding of the test.
     const Float t = Kornumglobals::KorTolerance;
     if (std::isnan(t) || t > 0x1p-6L) return;
     const Float tolerance = std::max<Float>(t, 0);
