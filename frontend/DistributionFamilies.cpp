@@ -15,19 +15,20 @@ using Kornumglobals::TKorFloatVector;
 
 namespace {
 
-Integer Whole(Float x) { return Integer(x); }
 // Truncated from the stored bits, without the FPU: a plain conversion changes the x87
 // control word twice, which stalls the loads after it (a third of a binomial tail's
-// time). Below 1 in magnitude it is 0; a negative count wraps as the conversion does.
-Cardinal Count(const Float& x) {
+// time). Below 1 in magnitude it is 0; a negative value wraps as the conversion does.
+std::uint64_t Truncated(const Float& x) {
     std::uint64_t m;
     std::uint16_t signExponent;
     std::memcpy(&m, &x, 8);
     std::memcpy(&signExponent, reinterpret_cast<const unsigned char*>(&x) + 8, 2);
     const int e = (signExponent & 0x7fff) - 16383;  // x = m 2^(e - 63)
     const std::uint64_t whole = e < 0 ? 0 : e > 63 ? m : m >> (63 - e);
-    return Cardinal(signExponent & 0x8000 ? 0 - whole : whole);
+    return signExponent & 0x8000 ? 0 - whole : whole;
 }
+Integer Whole(const Float& x) { return Integer(Truncated(x)); }
+Cardinal Count(const Float& x) { return Cardinal(Truncated(x)); }
 Float Lo(const Values& p) { return p.size() > 2 ? p[2] : 0; }  // the beta's bounds, [0, 1] by default
 Float Hi(const Values& p) { return p.size() > 2 ? p[3] : 1; }
 

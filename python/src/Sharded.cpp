@@ -216,7 +216,6 @@ void BindSharded(py::module_& m) {
               return py::bytes(runs);
           }, py::arg("values"));
     m.def("append_runs", [](const std::vector<std::string>& parts) {
-              std::string merged;
               TKorRunSummary runs;
               for (const std::string& part : parts) runs.Append(TKorRunSummary::Deserialize(part));
               Float mode = 0;
