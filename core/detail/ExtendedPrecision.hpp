@@ -350,6 +350,21 @@ inline constexpr LogStep LogSteps[256] = {
 
 // ---- Logarithm and exponential -----------------------------------------------------
 
+TwoFloat Log(Float x);
+
+// ln x for x beyond 2^+-1000 (or subnormal): x brought into range by powers of 2^1000,
+// which are exact, and k ln 2 added back in two Floats.
+// Zero, negative, infinite and NaN x give std::log's value.
+[[gnu::noinline]] inline TwoFloat LogOfScaled(Float x) {
+    if (!(x > 0) || std::isinf(x)) return {std::log(x), 0};
+    int k = 0;
+    for (; x < 0x1p-1000L; k -= 1000) x *= 0x1p+1000L;
+    for (; x >= 0x1p+1000L; k += 1000) x *= 0x1p-1000L;
+    const TwoFloat scaled = Log(x);
+    const TwoFloat kLn2 = FastTwoSum(Float(k) * Ln2High, Float(k) * Ln2Low);  // k ln2.hi is exact
+    return scaled + kLn2;
+}
+
 // ln x for a finite x > 0, with an absolute error below 2^-80 (plus 2^-100 |ln x|), and
 // within a few units of 2^-64 relative to ln x where x is near 1.
 // x = 2^k m with m in [1, 2); the step of m's first eight fraction bits gives an inverse
@@ -359,22 +374,20 @@ inline constexpr LogStep LogSteps[256] = {
 // sum is exact, the last is below 2^-17 and needs only one Float. k, the step and the
 // scale 2^-k c come from the bits of x, avoiding the slow conversions of this format to
 // integers; the whole path reads no Float from memory but x itself.
+// The exponent and the step are read from x rounded to a double: reading the bits of the
+// Float itself stalls whenever it was just stored from the x87 stack (as every argument
+// passed by value is), a failed store forwarding that cost half the call. Rounding may
+// carry m into the next step or binade, which leaves |r| within 2^-8 + 2^-52.
 inline TwoFloat Log(Float x) {
-    int k = 0;
-    if (!(x >= 0x1p-1000L && x < 0x1p+1000L)) [[unlikely]] {  // so that 2^-k is a double
-        for (; x < 0x1p-1000L; k -= 1000) x *= 0x1p+1000L;
-        for (; x >= 0x1p+1000L; k += 1000) x *= 0x1p-1000L;
-    }
-    // x = high + low, high of 55 bits and low of 9 (Veltkamp's split at 2^9 + 1).
-    const Float spread = x * 513;
-    const Float high = spread - (spread - x);
+    const double rounded = double(x);
+    std::uint64_t bits;
+    std::memcpy(&bits, &rounded, sizeof bits);
+    const int e = int((bits >> 52) & 0x7ff) - 1023;
+    if (e < -1000 || e >= 1000) [[unlikely]] return LogOfScaled(x);  // so that 2^-e is a double
+    // x = high + low: high the double (53 bits), low the rest (at most 11 bits).
+    const Float high = rounded;
     const Float low = x - high;
-    std::uint64_t significand;  // explicit leading bit: x = significand 2^(e - 63)
-    std::uint16_t exponent;
-    std::memcpy(&significand, &x, sizeof significand);
-    std::memcpy(&exponent, reinterpret_cast<const char*>(&x) + 8, sizeof exponent);
-    const int e = int(exponent & 0x7fff) - 16383;
-    const LogStep& step = LogSteps[(significand >> 55) & 0xff];
+    const LogStep& step = LogSteps[(bits >> 44) & 0xff];
     // 2^-e from its bits, times the inverse: exact, as 2^-e and c are short.
     const std::uint64_t powerBits = std::uint64_t(1023 - e) << 52;
     double power;
@@ -385,11 +398,11 @@ inline TwoFloat Log(Float x) {
     // even terms as two chains in r^2. 1/3 is the only coefficient that needs more than
     // a double: its second half is added on its own.
     constexpr double Third = 1.0 / 3, ThirdLow = double(1.0L / 3 - Third);
-    const Float r2 = r * r;
-    const Float even = ((-1.0 / 8 * r2 - 1.0 / 6) * r2 - 1.0 / 4) * r2 - 0.5;
-    const Float odd = (((1.0 / 9 * r2 + 1.0 / 7) * r2 + 1.0 / 5) * r2 + Third) + ThirdLow;
-    const Float series = r2 * (even + odd * r);
-    const Float n = Float(k + e);
+    const Float r2 = r * r, r4 = r2 * r2;
+    const Float first = (Third * r - 0.5) + ThirdLow * r, second = 1.0 / 5 * r - 1.0 / 4;
+    const Float third = 1.0 / 7 * r - 1.0 / 6, fourth = 1.0 / 9 * r - 1.0 / 8;
+    const Float series = r2 * ((first + second * r2) + (third + fourth * r2) * r4);
+    const Float n = Float(e);
     const Float exact = n * Ln2High + step.logHigh;  // exact: both multiples of 2^-48
     const Float small = (n * Ln2Low + step.logLow) + series;
     const TwoFloat sum = FastTwoSum(exact, r);  // |exact| >= |r| unless exact is 0
