@@ -52,23 +52,22 @@ struct SplitTable {
     const SplitFloat* operator[](std::uint64_t i) const { return rows[i]; }
 };
 
-// sum c[k] h^k for k = 0 .. Degree, as its even and odd halves in h^2: two chains of
-// half the length side by side, short enough for the eight registers of this format's
-// stack. The coefficients from h^Short on are read to double precision only, one memory
+// sum c[k] h^k for k = 0 .. Degree as c[0] + h T(h), T by Estrin's scheme: pairs
+// c[k] + c[k+1] h combined with h^2, those with h^4 and h^8, a chain of four
+// multiply-adds where Horner's rule needs one per power (the polynomial's latency is most
+// of a call near the centre). c[0] is added last, so that T's larger rounding errors
+// are scaled down by h, as in Horner's rule.
+// The coefficients from h^Short on are read to double precision only, one memory
 // operand each, where the caller's table makes their terms small enough for that.
 template <int Degree, int Short>
 inline Float EvenOddPolynomial(const SplitFloat* c, Float h) {
-    constexpr int TopEven = Degree % 2 == 0 ? Degree : Degree - 1;
-    constexpr int TopOdd = Degree % 2 == 1 ? Degree : Degree - 1;
-    const auto coefficient = [c](int k) { return k >= Short ? Float(c[k].hi) : c[k].Value(); };
-    const Float h2 = h * h;
-    Float even = coefficient(TopEven), odd = coefficient(TopOdd);
-#pragma GCC unroll 8
-    for (int n = 1; n <= TopEven / 2; ++n) {
-        even = even * h2 + coefficient(TopEven - 2 * n);
-        if (TopOdd - 2 * n >= 1) odd = odd * h2 + coefficient(TopOdd - 2 * n);
-    }
-    return even + odd * h;
+    static_assert(Degree >= 9 && Degree <= 16);
+    const auto coefficient = [c](int k) { return k > Degree ? Float(0) : k >= Short ? Float(c[k].hi) : c[k].Value(); };
+    const auto pair = [&](int k) { return coefficient(k) + coefficient(k + 1) * h; };
+    const Float h2 = h * h, h4 = h2 * h2, h8 = h4 * h4;
+    const Float low = (pair(1) + pair(3) * h2) + (pair(5) + pair(7) * h2) * h4;
+    const Float high = Degree >= 13 ? (pair(9) + pair(11) * h2) + pair(13) * h4 : pair(9) + pair(11) * h2;
+    return coefficient(0) + (low + high * h8) * h;
 }
 
 }  // namespace KornumStatistics::detail
