@@ -7,6 +7,7 @@
 #include "core/detail/ExtendedPrecision.hpp"
 #include "statistics/detail/MillsRatio.hpp"
 #include "statistics/detail/NegativeExponential.hpp"
+#include "statistics/detail/NormalQuantileTaylor.hpp"
 #include "statistics/detail/NormalTailTaylor.hpp"
 #include "statistics/detail/StandardNormalTail.hpp"
 
@@ -92,6 +93,13 @@ T Polynomial(const T (&coefficients)[8], T x) {
     return value;
 }
 
+// The same in double precision by Estrin's scheme: three levels of multiply-adds instead of
+// seven, for a starting value whose last bits the Newton step replaces anyway.
+inline double ShortPolynomial(const double (&c)[8], double x) {
+    const double x2 = x * x;
+    return ((c[0] + c[1] * x) + (c[2] + c[3] * x) * x2) + ((c[4] + c[5] * x) + (c[6] + c[7] * x) * x2) * (x2 * x2);
+}
+
 // The coefficients in another precision.
 struct ShortCoefficients {
     double values[8];
@@ -108,16 +116,16 @@ double LowerTailStart(Float P) {
     const double Q = double(P) - 0.5;
     if (std::fabs(Q) <= double(Split1)) {
         const double R = double(Const1) - Q * Q;
-        return Q * Polynomial(ShortA.values, R) / Polynomial(ShortB.values, R);
+        return Q * ShortPolynomial(ShortA.values, R) / ShortPolynomial(ShortB.values, R);
     }
     double R = P < 0x1p-1000L ? double(std::sqrt(-std::log(P))) : std::sqrt(-std::log(double(P)));
     double X;
     if (R <= double(Split2)) {
         R -= double(Const2);
-        X = Polynomial(ShortC.values, R) / Polynomial(ShortD.values, R);
+        X = ShortPolynomial(ShortC.values, R) / ShortPolynomial(ShortD.values, R);
     } else {
         R -= double(Split2);
-        X = Polynomial(ShortE.values, R) / Polynomial(ShortF.values, R);
+        X = ShortPolynomial(ShortE.values, R) / ShortPolynomial(ShortF.values, R);
     }
     return -X;
 }
@@ -192,16 +200,21 @@ bool IsPowerOfTwo(Float StdDev) {
 // (X - Mean) / StdDev in two Floats: rounded to one, its error would be magnified by z^2
 // in a far tail. The difference is exact, and so is the quotient when StdDev is a power of
 // two (the standard normal among them); otherwise the quotient's remainder is formed
-// exactly and divided once more. An infinite or NaN point is passed on as it is.
+// exactly and divided once more. The pair is not renormalised: the tails take the low
+// part to first order whatever its size against the high part's ulp, and the high part is
+// then ready one operation after the point, not at the end of the whole sum. An infinite
+// or NaN point is passed on as it is.
 [[gnu::always_inline]] inline Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev) {
     const TwoFloat d = Kornummath::special::TwoSum(x.hi, -Mean);
     if (!std::isfinite(d.hi)) return StandardTails(d.hi / StdDev, 0);
-    const TwoFloat difference = Kornummath::special::FastTwoSum(d.hi, d.lo + x.lo);
-    if (StdDev == 1) return StandardTails(difference.hi, difference.lo);
-    if (IsPowerOfTwo(StdDev)) return StandardTails(difference.hi / StdDev, difference.lo / StdDev);
-    const TwoFloat z = difference / TwoFloat{StdDev, 0};
-    if (!std::isfinite(z.hi)) return StandardTails(z.hi, 0);
-    return StandardTails(z.hi, std::isfinite(z.lo) ? z.lo : 0);
+    const Float lo = d.lo + x.lo;
+    if (StdDev == 1) return StandardTails(d.hi, lo);
+    if (IsPowerOfTwo(StdDev)) return StandardTails(d.hi / StdDev, lo / StdDev);
+    const Float quotient = d.hi / StdDev;
+    if (!std::isfinite(quotient)) return StandardTails(quotient, 0);
+    const TwoFloat product = Kornummath::special::TwoProduct(quotient, StdDev);
+    const Float remainder = (((d.hi - product.hi) - product.lo) + lo) / StdDev;
+    return StandardTails(quotient, std::isfinite(remainder) ? remainder : 0);
 }
 
 // The log-normal tails: the logarithm of X in two Floats, X <= 0 below the support.
@@ -302,11 +315,10 @@ Float InvNormalGreater(Float P) { return InvNormalLess(1 - P); }
 
 namespace {
 
-// The z >= 0 with P(N > z) = t, for 0 < t <= 1/2: AS 241's value in double precision,
-// then Newton steps on the accurate tail until a step no longer changes z beyond rounding
-// (one, except below the tails AS 241 was made for).
-Float UpperTailQuantile(Float t) {
-    Float z = -LowerTailStart(t);
+// The z >= 0 with P(N > z) = t, for 0 < t <= 1/2, from a start z (AS 241's value in
+// double precision): Newton steps on the accurate tail until a step no longer changes z
+// beyond rounding (one, except below the tails AS 241 was made for).
+[[gnu::always_inline]] inline Float NewtonSteps(Float t, Float z) {
     for (int step = 0; step < 8; ++step) {
         const Tails tails = StandardTails(z, 0);
         const Float change = (tails.upper - t) / tails.density;
@@ -314,6 +326,30 @@ Float UpperTailQuantile(Float t) {
         if (std::fabs(change) <= 1e-12L * z) break;
     }
     return z;
+}
+
+// The same from t = 1/16 up by the quantile's own Taylor table (+0 at t = 1/2).
+Float UpperTailQuantile(Float t) {
+    if (t >= detail::NormalQuantileTaylorLow) return 0 - detail::LowerQuantileNearCentre(t);
+    return NewtonSteps(t, -LowerTailStart(t));
+}
+
+// e^(Mean + StdDev z) for z = -Q^-1(t) when negative, Q^-1(t) otherwise. Below the
+// quantile's table, the exponential is taken at the starting z, known before the Newton
+// steps, so that the two run side by side rather than one after the other; the steps'
+// change d (about 1e-16 of z) then scales it by e^d = 1 + d. A larger change (far tails)
+// or an exponential beyond the range takes the exponential again at the final z.
+[[gnu::always_inline]] inline Float LogNormalQuantile(Float Mean, Float StdDev, Float t, bool negative) {
+    if (t >= detail::NormalQuantileTaylorLow) {
+        const Float z = detail::LowerQuantileNearCentre(t);  // -Q^-1(t)
+        return detail::ExpOf(Mean + StdDev * (negative ? z : -z));
+    }
+    const Float start = -LowerTailStart(t);
+    const Float z = NewtonSteps(t, start);
+    const Float e = detail::ExpOf(Mean + StdDev * (negative ? -start : start));
+    const Float d = StdDev * (negative ? start - z : z - start);
+    if (std::fabs(d) < 0x1p-33 && std::isfinite(e)) return e + e * d;  // d^2 / 2 below 2^-67
+    return detail::ExpOf(Mean + StdDev * (negative ? -z : z));
 }
 
 }  // namespace
@@ -332,12 +368,14 @@ Float InvNormalUpper(Float Q) {
 // call's cost, which would be a third of the whole quantile's.
 Float InvLogNormalLower(Float Mean, Float StdDev, Float P) {
     CheckForwardStdDev(StdDev);
-    return detail::ExpOf(Mean + StdDev * InvNormalLower(P));
+    CheckOpenProbability(P);
+    return P <= 0.5L ? LogNormalQuantile(Mean, StdDev, P, true) : LogNormalQuantile(Mean, StdDev, 1 - P, false);
 }
 
 Float InvLogNormalUpper(Float Mean, Float StdDev, Float Q) {
     CheckForwardStdDev(StdDev);
-    return detail::ExpOf(Mean + StdDev * InvNormalUpper(Q));
+    CheckOpenProbability(Q);
+    return Q <= 0.5L ? LogNormalQuantile(Mean, StdDev, Q, false) : LogNormalQuantile(Mean, StdDev, 1 - Q, true);
 }
 
 Float NormalPDF(Float X, Float Mean, Float StdDev) {

@@ -258,7 +258,11 @@ def normal_quantile_rows():
     at their complements."""
     rows = []
     levels = ["1e-4931", "1e-1000", "1e-300", "1e-100", "1e-20", "1e-7", "0.001", "0.025", "0.1",
-              "0.3", "0.4999999", "0.5", "0.6", "0.9", "0.975", "0.999", "0.9999999"]
+              "0.3", "0.4999999", "0.5", "0.6", "0.9", "0.975", "0.999", "0.9999999",
+              # the centre's Taylor table: its ends, points halfway between nodes (i + 1/2)
+              # / 256, and levels a few ulps from 1/2, where z is tiny
+              "0.0624999", "0.0625", "0.06640625", "0.2001953125", "0.4990234375", "0.498046875",
+              "0.49999999999999999", "0.5000000000000000001", "0.501953125", "0.9375", "0.9375001"]
     for text_level in levels:
         level = exact(text_level)
         for kind, upper in [("normal_inv_lower", False), ("normal_inv_upper", True)]:
