@@ -168,11 +168,15 @@ struct Tails {
 // 1 minus it.
 // Inlined into its callers: passing and returning this format through memory would
 // cost as much as the short path near the centre.
-[[gnu::always_inline]] inline Tails StandardTails(Float hi, Float lo) {
+// An estimate of |hi| (a double within a few ulps), where the caller has one before hi,
+// lets the Taylor table's row be read early.
+[[gnu::always_inline]] inline Tails StandardTails(Float hi, Float lo, double estimate = -1) {
     if (std::isnan(hi)) return {hi, hi, hi};
     if (std::isinf(hi)) return hi > 0 ? Tails{1, 0, 0} : Tails{0, 1, 0};
     if (std::fabs(hi) <= detail::NormalTailTaylorLimit) {
-        const detail::TailNearCentre near = detail::UpperTailNearCentre(std::fabs(hi));
+        const detail::TailNearCentre near = estimate >= 0 && estimate <= 4.5
+                                                ? detail::UpperTailNearCentre(std::fabs(hi), estimate)
+                                                : detail::UpperTailNearCentre(std::fabs(hi));
         if (hi >= 0) {
             const Float upper = near.tail - near.density * lo;
             return {1 - upper, upper, near.density};
@@ -204,17 +208,17 @@ bool IsPowerOfTwo(Float StdDev) {
 // part to first order whatever its size against the high part's ulp, and the high part is
 // then ready one operation after the point, not at the end of the whole sum. An infinite
 // or NaN point is passed on as it is.
-[[gnu::always_inline]] inline Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev) {
+[[gnu::always_inline]] inline Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev, double estimate = -1) {
     const TwoFloat d = Kornummath::special::TwoSum(x.hi, -Mean);
     if (!std::isfinite(d.hi)) return StandardTails(d.hi / StdDev, 0);
     const Float lo = d.lo + x.lo;
-    if (StdDev == 1) return StandardTails(d.hi, lo);
-    if (IsPowerOfTwo(StdDev)) return StandardTails(d.hi / StdDev, lo / StdDev);
+    if (StdDev == 1) return StandardTails(d.hi, lo, estimate);
+    if (IsPowerOfTwo(StdDev)) return StandardTails(d.hi / StdDev, lo / StdDev, estimate);
     const Float quotient = d.hi / StdDev;
     if (!std::isfinite(quotient)) return StandardTails(quotient, 0);
     const TwoFloat product = Kornummath::special::TwoProduct(quotient, StdDev);
     const Float remainder = (((d.hi - product.hi) - product.lo) + lo) / StdDev;
-    return StandardTails(quotient, std::isfinite(remainder) ? remainder : 0);
+    return StandardTails(quotient, std::isfinite(remainder) ? remainder : 0, estimate);
 }
 
 // The log-normal tails: the logarithm of X in two Floats, X <= 0 below the support.
@@ -223,7 +227,10 @@ bool IsPowerOfTwo(Float StdDev) {
     if (std::isnan(X)) return {X, X, X};
     if (X <= 0) return {0, 1, 0};
     if (std::isinf(X)) return {1, 0, 0};
-    return StandardisedTails(Kornummath::special::Log(X), Mean, StdDev);
+    // |z| in double precision from the library's logarithm, which runs on the other
+    // registers beside the accurate one.
+    const double estimate = std::fabs((std::log(double(X)) - double(Mean)) / double(StdDev));
+    return StandardisedTails(Kornummath::special::Log(X), Mean, StdDev, estimate);
 }
 
 }  // namespace
