@@ -227,9 +227,10 @@ bool IsPowerOfTwo(Float StdDev) {
     if (std::isnan(X)) return {X, X, X};
     if (X <= 0) return {0, 1, 0};
     if (std::isinf(X)) return {1, 0, 0};
-    // |z| in double precision from the library's logarithm, which runs on the other
-    // registers beside the accurate one.
-    const double estimate = std::fabs((std::log(double(X)) - double(Mean)) / double(StdDev));
+    // |z| to about 2^-24 in double precision, formed beside the accurate logarithm.
+    const double estimate = X >= 0x1p-1000L && X < 0x1p1000L
+                                ? std::fabs((Kornummath::special::RoughLog(X) - double(Mean)) / double(StdDev))
+                                : -1;
     return StandardisedTails(Kornummath::special::Log(X), Mean, StdDev, estimate);
 }
 

@@ -409,6 +409,22 @@ inline TwoFloat Log(Float x) {
     return FastTwoSum(sum.hi, sum.lo + small);
 }
 
+// ln x to about 2^-24 for a finite x > 0 within 2^+-1000, in double precision from the same
+// step as Log: for an estimate wanted before the accurate value, which it does not delay
+// (no library call, and nothing of this format but x).
+inline double RoughLog(Float x) {
+    const double rounded = double(x);
+    std::uint64_t bits;
+    std::memcpy(&bits, &rounded, sizeof bits);
+    const LogStep& step = LogSteps[(bits >> 44) & 0xff];
+    const std::uint64_t significandBits = (bits & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull;
+    double m;  // x's significand, in [1, 2)
+    std::memcpy(&m, &significandBits, sizeof m);
+    const double r = m * step.inverse - 1;
+    const int e = int((bits >> 52) & 0x7ff) - 1023;
+    return (e * (Ln2High + Ln2Low) + step.logHigh) + r * (1 - r / 2);
+}
+
 // ln of a TwoFloat x > 0: ln(hi) + lo / hi to first order (lo / hi is below 2^-63).
 inline TwoFloat Log(TwoFloat x) { return Log(x.hi) + TwoFloat{x.lo / x.hi, 0}; }
 

@@ -424,7 +424,7 @@ struct TailNearCentre {
 // as its even and odd halves in h^2: two chains of six steps side by side, short enough
 // for the eight registers of this format's stack. The density is -Q' from the same
 // coefficients to the 4th power.
-inline TailNearCentre UpperTailNearCentre(NearestNode node) {
+[[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(NearestNode node) {
     const SplitFloat* t = NormalTailSplit[node.index];
     const Float h = node.offset, h2 = h * h;
     // The high halves suffice for the density; sharing the full coefficients with the
@@ -432,13 +432,13 @@ inline TailNearCentre UpperTailNearCentre(NearestNode node) {
     const Float slope = (t[1].hi + 2 * t[2].hi * h) + (3 * t[3].hi + 4 * t[4].hi * h) * h2;
     return {EvenOddPolynomial<11, 4>(t, h), -slope};
 }
-inline TailNearCentre UpperTailNearCentre(Float z) { return UpperTailNearCentre(NearestNodeOf<16>(z)); }
+[[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(Float z) { return UpperTailNearCentre(NearestNodeOf<16>(z)); }
 
 // The same with the node chosen from an estimate of z known before z itself (a double
 // within a few ulps of it), so that the table's row is read while z is still being
 // formed. At a midpoint the estimate may pick the other node: |h| then exceeds 1/32 by
 // the estimate's error, which the series' margin absorbs.
-inline TailNearCentre UpperTailNearCentre(Float z, double estimate) {
+[[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(Float z, double estimate) {
     constexpr double Shifter = 0x1.8p52;
     const double shifted = estimate * 16 + Shifter;
     std::uint64_t bits;
