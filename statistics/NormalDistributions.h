@@ -169,8 +169,10 @@ Float LogNormalUpper(Float Mean, Float StdDev, Float X);
 
 /// @name Accurate normal quantiles
 /// The z with P(N <= z) = `P` (`InvNormalLower`) or with P(N > z) = `Q`
-/// (`InvNormalUpper`), N standard normal, to the last bits however small the tail: the
-/// smaller tail's quantile by `InvNormalLess`, refined by Newton steps on that tail
+/// (`InvNormalUpper`), N standard normal, to the last bits however small the tail or
+/// however near 1/2 the probability. For a smaller tail from 1/16 to 1/2, a Taylor table
+/// of the quantile itself, within about 2 ulps relative; below 1/16, that tail's quantile
+/// by `InvNormalLess` in double precision, refined by Newton steps on the tail
 /// (`NormalUpper`), one of which takes its relative error of about 1e-16 below the
 /// format's rounding. InvNormalUpper(1e-300) is about 37.047. Failures
 /// (Platform::EMathError): a probability outside (0, 1) raises
