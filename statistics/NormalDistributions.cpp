@@ -325,13 +325,16 @@ namespace {
 
 // The z >= 0 with P(N > z) = t, for 0 < t <= 1/2, from a start z (AS 241's value in
 // double precision): Newton steps on the accurate tail until a step no longer changes z
-// beyond rounding (one, except below the tails AS 241 was made for).
-[[gnu::always_inline]] inline Float NewtonSteps(Float t, Float z) {
+// beyond rounding (one, except below the tails AS 241 was made for). z is kept as a pair,
+// the steps' changes summed into its low part: the log-normal quantile needs it beyond
+// one Float.
+[[gnu::always_inline]] inline TwoFloat NewtonSteps(Float t, Float start) {
+    TwoFloat z{start, 0};
     for (int step = 0; step < 8; ++step) {
-        const Tails tails = StandardTails(z, 0);
+        const Tails tails = StandardTails(z.hi, z.lo);
         const Float change = (tails.upper - t) / tails.density;
-        z += change;
-        if (std::fabs(change) <= 1e-12L * z) break;
+        z = Kornummath::special::FastTwoSum(z.hi, z.lo + change);
+        if (std::fabs(change) <= 1e-12L * z.hi) break;
     }
     return z;
 }
@@ -339,25 +342,43 @@ namespace {
 // The same from t = 1/16 up by the quantile's own Taylor table (+0 at t = 1/2).
 Float UpperTailQuantile(Float t) {
     if (t >= detail::NormalQuantileTaylorLow) return 0 - detail::LowerQuantileNearCentre(t);
-    return NewtonSteps(t, -LowerTailStart(t));
+    return NewtonSteps(t, -LowerTailStart(t)).hi;
 }
 
-// e^(Mean + StdDev z) for z = -Q^-1(t) when negative, Q^-1(t) otherwise. Below the
-// quantile's table, the exponential is taken at the starting z, known before the Newton
-// steps, so that the two run side by side rather than one after the other; the steps'
-// change d (about 1e-16 of z) then scales it by e^d = 1 + d. A larger change (far tails)
-// or an exponential beyond the range takes the exponential again at the final z.
+// Mean + StdDev s in two Floats.
+TwoFloat Exponent(Float Mean, Float StdDev, Float s) {
+    using Kornummath::special::FastTwoSum;
+    const TwoFloat product = StdDev == 1 ? TwoFloat{s, 0} : Kornummath::special::TwoProduct(StdDev, s);
+    const TwoFloat sum = std::fabs(Mean) >= std::fabs(product.hi) ? FastTwoSum(Mean, product.hi) : FastTwoSum(product.hi, Mean);
+    return {sum.hi, sum.lo + product.lo};
+}
+
+// e scaled by e^d = 1 + d for |d| below 2^-33 (d^2 / 2 is then below 2^-67).
+Float Scaled(Float e, Float d) { return std::isfinite(e) ? e + e * d : e; }
+
+// e^(Mean + StdDev z) for z = -Q^-1(t) when negative, Q^-1(t) otherwise, with the exponent
+// in two Floats: rounded to one, its rounding would be magnified by its own size (up to
+// 11356 ulps); below 1 in size one Float is enough. From the quantile's table z is one
+// Float. Below it z is the Newton steps' pair, and the exponential is taken at the starting z, known before the steps, so that
+// the two run side by side: the rest of the exponent, d (about 1e-16), then scales it. A
+// larger d (far tails, or a large StdDev) takes the exponential again at the final z.
 [[gnu::always_inline]] inline Float LogNormalQuantile(Float Mean, Float StdDev, Float t, bool negative) {
     if (t >= detail::NormalQuantileTaylorLow) {
-        const Float z = detail::LowerQuantileNearCentre(t);  // -Q^-1(t)
-        return detail::ExpOf(Mean + StdDev * (negative ? z : -z));
+        const Float z = detail::LowerQuantileNearCentre(t), s = negative ? z : -z;  // -Q^-1(t)
+        const Float rounded = Mean + StdDev * s;
+        if (std::fabs(rounded) < 1) return detail::ExpOf(rounded);  // rounding below 2^-65
+        const TwoFloat y = Exponent(Mean, StdDev, s);
+        return Scaled(detail::ExpOf(y.hi), y.lo);
     }
     const Float start = -LowerTailStart(t);
-    const Float z = NewtonSteps(t, start);
-    const Float e = detail::ExpOf(Mean + StdDev * (negative ? -start : start));
-    const Float d = StdDev * (negative ? start - z : z - start);
-    if (std::fabs(d) < 0x1p-33 && std::isfinite(e)) return e + e * d;  // d^2 / 2 below 2^-67
-    return detail::ExpOf(Mean + StdDev * (negative ? -z : z));
+    const TwoFloat y = Exponent(Mean, StdDev, negative ? -start : start);
+    const Float e = detail::ExpOf(y.hi);
+    const TwoFloat z = NewtonSteps(t, start);
+    const Float change = (z.hi - start) + z.lo;  // the first difference is exact
+    const Float d = y.lo + StdDev * (negative ? -change : change);
+    if (std::fabs(d) < 0x1p-33) return Scaled(e, d);
+    const TwoFloat final = Exponent(Mean, StdDev, negative ? -z.hi : z.hi);
+    return Scaled(detail::ExpOf(final.hi), final.lo + StdDev * (negative ? -z.lo : z.lo));
 }
 
 }  // namespace

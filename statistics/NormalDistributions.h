@@ -184,7 +184,9 @@ Float InvNormalLower(Float P);
 /// The z with P(N > z) = `Q`, from the upper tail itself.
 Float InvNormalUpper(Float Q);
 /// The x with P(X' <= x) = `P` for X' log-normal (ln X' normal with mean `Mean` and
-/// standard deviation `StdDev`): exp(Mean + StdDev InvNormalLower(P)). Failures
+/// standard deviation `StdDev`): exp(Mean + StdDev InvNormalLower(P)), the exponent carried
+/// in two Floats so that its rounding is not magnified by its size: within a few ulps for
+/// P from 1e-300 up (about 34 below it), whatever Mean and StdDev. Failures
 /// (Platform::EMathError): Kornum_RS_Math::rsStdDev, Kornum_RS_Math::rsValue01.
 Float InvLogNormalLower(Float Mean, Float StdDev, Float P);
 /// The x with P(X' > x) = `Q` for X' log-normal: exp(Mean + StdDev InvNormalUpper(Q)).
