@@ -168,7 +168,7 @@ struct Tails {
 // 1 minus it.
 // Inlined into its callers: passing and returning this format through memory would
 // cost as much as the short path near the centre.
-// An estimate of |hi| (a double within a few ulps), where the caller has one before hi,
+// An estimate of |hi| (a double within about 2^-20), where the caller has one before hi,
 // lets the Taylor table's row be read early.
 [[gnu::always_inline]] inline Tails StandardTails(Float hi, Float lo, double estimate = -1) {
     if (std::isnan(hi)) return {hi, hi, hi};
@@ -208,7 +208,8 @@ bool IsPowerOfTwo(Float StdDev) {
 // part to first order whatever its size against the high part's ulp, and the high part is
 // then ready one operation after the point, not at the end of the whole sum. An infinite
 // or NaN point is passed on as it is.
-[[gnu::always_inline]] inline Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev, double estimate = -1) {
+[[gnu::always_inline]] inline Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev,
+                                                      double estimate = -1) {
     const TwoFloat d = Kornummath::special::TwoSum(x.hi, -Mean);
     if (!std::isfinite(d.hi)) return StandardTails(d.hi / StdDev, 0);
     const Float lo = d.lo + x.lo;
@@ -345,11 +346,13 @@ Float UpperTailQuantile(Float t) {
     return NewtonSteps(t, -LowerTailStart(t)).hi;
 }
 
-// Mean + StdDev s in two Floats.
+// Mean + StdDev s in two Floats: the product split exactly, then its high part added to
+// Mean with the larger first, which makes the sum's error exact in three operations.
 TwoFloat Exponent(Float Mean, Float StdDev, Float s) {
     using Kornummath::special::FastTwoSum;
     const TwoFloat product = StdDev == 1 ? TwoFloat{s, 0} : Kornummath::special::TwoProduct(StdDev, s);
-    const TwoFloat sum = std::fabs(Mean) >= std::fabs(product.hi) ? FastTwoSum(Mean, product.hi) : FastTwoSum(product.hi, Mean);
+    const TwoFloat sum =
+        std::fabs(Mean) >= std::fabs(product.hi) ? FastTwoSum(Mean, product.hi) : FastTwoSum(product.hi, Mean);
     return {sum.hi, sum.lo + product.lo};
 }
 
@@ -359,12 +362,14 @@ Float Scaled(Float e, Float d) { return std::isfinite(e) ? e + e * d : e; }
 // e^(Mean + StdDev z) for z = -Q^-1(t) when negative, Q^-1(t) otherwise, with the exponent
 // in two Floats: rounded to one, its rounding would be magnified by its own size (up to
 // 11356 ulps); below 1 in size one Float is enough. From the quantile's table z is one
-// Float. Below it z is the Newton steps' pair, and the exponential is taken at the starting z, known before the steps, so that
-// the two run side by side: the rest of the exponent, d (about 1e-16), then scales it. A
-// larger d (far tails, or a large StdDev) takes the exponential again at the final z.
+// Float. Below it z is the Newton steps' pair, and the exponential is taken at the
+// starting z, known before the steps, so that the two run side by side: the rest of the
+// exponent, d (about 1e-16), then scales it. A larger d (far tails, or a large StdDev)
+// takes the exponential again at the final z.
 [[gnu::always_inline]] inline Float LogNormalQuantile(Float Mean, Float StdDev, Float t, bool negative) {
     if (t >= detail::NormalQuantileTaylorLow) {
-        const Float z = detail::LowerQuantileNearCentre(t), s = negative ? z : -z;  // -Q^-1(t)
+        const Float z = detail::LowerQuantileNearCentre(t);  // -Q^-1(t)
+        const Float s = negative ? z : -z;
         const Float rounded = Mean + StdDev * s;
         if (std::fabs(rounded) < 1) return detail::ExpOf(rounded);  // rounding below 2^-65
         const TwoFloat y = Exponent(Mean, StdDev, s);

@@ -700,15 +700,14 @@ inline constexpr SplitTable MillsSplit(MillsTaylor);
 //
 // Below 12: the Taylor series at the nearest node c, |z - c| <= 1/16, to the 12th power,
 // beyond which the terms stay below 2^-66 of the sum. The coefficients are tabulated, and
-// the polynomial is evaluated as its even and odd halves in h^2: two chains of six steps
-// side by side, short enough for the eight registers of this format's stack.
+// the polynomial is evaluated by TaylorPolynomial (TaylorNodes.hpp).
 //
 // From 12 on: the asymptotic series R(z) = (1/z) sum (-1)^k (2k - 1)!! z^-2k to k = 20,
 // whose first omitted term is below 2^-67 there.
 inline Float MillsRatio(Float z) {
     if (z < 12) {
         const NearestNode node = NearestNodeOf<8>(z);
-        return EvenOddPolynomial<12, 4>(MillsSplit[node.index], node.offset);
+        return TaylorPolynomial<12, 4>(MillsSplit[node.index], node.offset);
     }
     // (-1)^k (2k - 1)!!, k = 0 .. 20.
     static constexpr Float Asymptotic[] = {

@@ -819,7 +819,7 @@ inline constexpr Float NormalQuantileTaylorLow = 0.0625L;
 // gives z to a relative ulp however small it is.
 inline Float LowerQuantileNearCentre(Float t) {
     const NearestNode node = NearestNodeOf<256>(t);
-    return EvenOddPolynomial<12, 3>(NormalQuantileSplit[node.index - 16], node.offset);
+    return TaylorPolynomial<12, 3>(NormalQuantileSplit[node.index - 16], node.offset);
 }
 
 }  // namespace KornumStatistics::detail

@@ -421,8 +421,7 @@ struct TailNearCentre {
 
 // Q(z) for 0 <= z <= 4, within about an ulp: the Taylor series at the nearest node c,
 // |z - c| <= 1/32, to the 11th power (the first omitted term is below 2^-70 of the sum),
-// as its even and odd halves in h^2: two chains of six steps side by side, short enough
-// for the eight registers of this format's stack. The density is -Q' from the same
+// evaluated by TaylorPolynomial (TaylorNodes.hpp). The density is -Q' from the same
 // coefficients to the 4th power.
 [[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(NearestNode node) {
     const SplitFloat* t = NormalTailSplit[node.index];
@@ -430,12 +429,14 @@ struct TailNearCentre {
     // The high halves suffice for the density; sharing the full coefficients with the
     // polynomial would hold them past the stack's eight registers.
     const Float slope = (t[1].hi + 2 * t[2].hi * h) + (3 * t[3].hi + 4 * t[4].hi * h) * h2;
-    return {EvenOddPolynomial<11, 4>(t, h), -slope};
+    return {TaylorPolynomial<11, 4>(t, h), -slope};
 }
-[[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(Float z) { return UpperTailNearCentre(NearestNodeOf<16>(z)); }
+[[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(Float z) {
+    return UpperTailNearCentre(NearestNodeOf<16>(z));
+}
 
 // The same with the node chosen from an estimate of z known before z itself (a double
-// within a few ulps of it), so that the table's row is read while z is still being
+// within about 2^-20 of it), so that the table's row is read while z is still being
 // formed. At a midpoint the estimate may pick the other node: |h| then exceeds 1/32 by
 // the estimate's error, which the series' margin absorbs.
 [[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(Float z, double estimate) {

@@ -52,6 +52,21 @@ struct SplitTable {
     const SplitFloat* operator[](std::uint64_t i) const { return rows[i]; }
 };
 
+// c[K] of a Taylor table, 0 beyond the Degree: the full Float below Short, the high
+// double from there on.
+template <int Degree, int Short, int K>
+[[gnu::always_inline]] inline Float Coefficient(const SplitFloat* c) {
+    if constexpr (K > Degree) return 0;
+    else if constexpr (K >= Short) return c[K].hi;
+    else return c[K].Value();
+}
+
+// c[K] + c[K + 1] h.
+template <int Degree, int Short, int K>
+[[gnu::always_inline]] inline Float Pair(const SplitFloat* c, Float h) {
+    return Coefficient<Degree, Short, K>(c) + Coefficient<Degree, Short, K + 1>(c) * h;
+}
+
 // sum c[k] h^k for k = 0 .. Degree as c[0] + h T(h), T by Estrin's scheme: pairs
 // c[k] + c[k+1] h combined with h^2, those with h^4 and h^8, a chain of four
 // multiply-adds where Horner's rule needs one per power (the polynomial's latency is most
@@ -59,15 +74,16 @@ struct SplitTable {
 // are scaled down by h, as in Horner's rule.
 // The coefficients from h^Short on are read to double precision only, one memory
 // operand each, where the caller's table makes their terms small enough for that.
+// Always inlined: a call would pass h and the result through memory.
 template <int Degree, int Short>
-inline Float EvenOddPolynomial(const SplitFloat* c, Float h) {
+[[gnu::always_inline]] inline Float TaylorPolynomial(const SplitFloat* c, Float h) {
     static_assert(Degree >= 9 && Degree <= 16);
-    const auto coefficient = [c](int k) { return k > Degree ? Float(0) : k >= Short ? Float(c[k].hi) : c[k].Value(); };
-    const auto pair = [&](int k) { return coefficient(k) + coefficient(k + 1) * h; };
     const Float h2 = h * h, h4 = h2 * h2, h8 = h4 * h4;
-    const Float low = (pair(1) + pair(3) * h2) + (pair(5) + pair(7) * h2) * h4;
-    const Float high = Degree >= 13 ? (pair(9) + pair(11) * h2) + pair(13) * h4 : pair(9) + pair(11) * h2;
-    return coefficient(0) + (low + high * h8) * h;
+    const Float low = (Pair<Degree, Short, 1>(c, h) + Pair<Degree, Short, 3>(c, h) * h2) +
+                      (Pair<Degree, Short, 5>(c, h) + Pair<Degree, Short, 7>(c, h) * h2) * h4;
+    Float high = Pair<Degree, Short, 9>(c, h) + Pair<Degree, Short, 11>(c, h) * h2;
+    if constexpr (Degree >= 13) high += Pair<Degree, Short, 13>(c, h) * h4;
+    return Coefficient<Degree, Short, 0>(c) + (low + high * h8) * h;
 }
 
 }  // namespace KornumStatistics::detail
