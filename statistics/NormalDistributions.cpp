@@ -168,15 +168,14 @@ struct Tails {
 // 1 minus it.
 // Inlined into its callers: passing and returning this format through memory would
 // cost as much as the short path near the centre.
-// An estimate of |hi| (a double within about 2^-20), where the caller has one before hi,
+// An estimate of |hi| (a double, negative for none), where the caller has one before hi,
 // lets the Taylor table's row be read early.
 [[gnu::always_inline]] inline Tails StandardTails(Float hi, Float lo, double estimate = -1) {
     if (std::isnan(hi)) return {hi, hi, hi};
     if (std::isinf(hi)) return hi > 0 ? Tails{1, 0, 0} : Tails{0, 1, 0};
     if (std::fabs(hi) <= detail::NormalTailTaylorLimit) {
-        const detail::TailNearCentre near = estimate >= 0 && estimate <= 4.5
-                                                ? detail::UpperTailNearCentre(std::fabs(hi), estimate)
-                                                : detail::UpperTailNearCentre(std::fabs(hi));
+        const detail::TailNearCentre near = estimate >= 0 ? detail::UpperTailNearCentre(std::fabs(hi), estimate)
+                                                          : detail::UpperTailNearCentre(std::fabs(hi));
         if (hi >= 0) {
             const Float upper = near.tail - near.density * lo;
             return {1 - upper, upper, near.density};
@@ -204,21 +203,24 @@ bool IsPowerOfTwo(Float StdDev) {
 // (X - Mean) / StdDev in two Floats: rounded to one, its error would be magnified by z^2
 // in a far tail. The difference is exact, and so is the quotient when StdDev is a power of
 // two (the standard normal among them); otherwise the quotient's remainder is formed
-// exactly and divided once more. The pair is not renormalised: the tails take the low
-// part to first order whatever its size against the high part's ulp, and the high part is
-// then ready one operation after the point, not at the end of the whole sum. An infinite
-// or NaN point is passed on as it is.
+// exactly and divided once more. The tails take the low part to first order with a
+// density good to about 2^-25, so it must stay within about an ulp of the high part: X's
+// low part is added to the high part at once (it is not small beside it where X and Mean
+// nearly cancel), and the difference's own error after it (0 in that case). The high part
+// is then ready two additions after the point. An infinite or NaN point is passed on as
+// it is.
 [[gnu::always_inline]] inline Tails StandardisedTails(TwoFloat x, Float Mean, Float StdDev,
                                                       double estimate = -1) {
     const TwoFloat d = Kornummath::special::TwoSum(x.hi, -Mean);
     if (!std::isfinite(d.hi)) return StandardTails(d.hi / StdDev, 0);
-    const Float lo = d.lo + x.lo;
-    if (StdDev == 1) return StandardTails(d.hi, lo, estimate);
-    if (IsPowerOfTwo(StdDev)) return StandardTails(d.hi / StdDev, lo / StdDev, estimate);
-    const Float quotient = d.hi / StdDev;
+    const TwoFloat difference = Kornummath::special::TwoSum(d.hi, x.lo);
+    const Float hi = difference.hi, lo = difference.lo + d.lo;
+    if (StdDev == 1) return StandardTails(hi, lo, estimate);
+    if (IsPowerOfTwo(StdDev)) return StandardTails(hi / StdDev, lo / StdDev, estimate);
+    const Float quotient = hi / StdDev;
     if (!std::isfinite(quotient)) return StandardTails(quotient, 0);
     const TwoFloat product = Kornummath::special::TwoProduct(quotient, StdDev);
-    const Float remainder = (((d.hi - product.hi) - product.lo) + lo) / StdDev;
+    const Float remainder = (((hi - product.hi) - product.lo) + lo) / StdDev;
     return StandardTails(quotient, std::isfinite(remainder) ? remainder : 0, estimate);
 }
 
@@ -228,7 +230,8 @@ bool IsPowerOfTwo(Float StdDev) {
     if (std::isnan(X)) return {X, X, X};
     if (X <= 0) return {0, 1, 0};
     if (std::isinf(X)) return {1, 0, 0};
-    // |z| to about 2^-24 in double precision, formed beside the accurate logarithm.
+    // |z| in double precision, formed beside the accurate logarithm: within 2^-24 / StdDev
+    // (and the rounding of Mean), so the tails check the node it picks.
     const double estimate = X >= 0x1p-1000L && X < 0x1p1000L
                                 ? std::fabs((Kornummath::special::RoughLog(X) - double(Mean)) / double(StdDev))
                                 : -1;

@@ -8,6 +8,7 @@
 
 #include <kornum/Kornumglobals.h>
 
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 
@@ -435,16 +436,20 @@ struct TailNearCentre {
     return UpperTailNearCentre(NearestNodeOf<16>(z));
 }
 
-// The same with the node chosen from an estimate of z known before z itself (a double
-// within about 2^-20 of it), so that the table's row is read while z is still being
-// formed. At a midpoint the estimate may pick the other node: |h| then exceeds 1/32 by
-// the estimate's error, which the series' margin absorbs.
+// The same with the node chosen from an estimate of z known before z itself, so that the
+// table's row is read while z is still being formed. The node is checked against z: one
+// whose offset exceeds 1/32 by more than 2^-10 (an estimate off by that much, as a small
+// standard deviation makes it, or none at all) gives way to the nearest node, and the
+// series' margin absorbs the excess below that.
 [[gnu::always_inline]] inline TailNearCentre UpperTailNearCentre(Float z, double estimate) {
     constexpr double Shifter = 0x1.8p52;
     const double shifted = estimate * 16 + Shifter;
     std::uint64_t bits;
     std::memcpy(&bits, &shifted, sizeof bits);
-    return UpperTailNearCentre(NearestNode{bits - 0x4338000000000000ull, z - Float((shifted - Shifter) / 16)});
+    const std::uint64_t index = bits - 0x4338000000000000ull;
+    const Float h = z - Float((shifted - Shifter) / 16);
+    if (!(index <= 64 && std::fabs(h) <= 1.0 / 32 + 0x1p-10)) [[unlikely]] return UpperTailNearCentre(z);
+    return UpperTailNearCentre(NearestNode{index, h});
 }
 
 }  // namespace KornumStatistics::detail
