@@ -365,38 +365,46 @@ TwoFloat Log(Float x);
     return scaled + kLn2;
 }
 
-// ln x for a finite x > 0, with an absolute error below 2^-80 (plus 2^-100 |ln x|), and
-// within a few units of 2^-64 relative to ln x where x is near 1.
-// x = 2^k m with m in [1, 2); the step of m's first eight fraction bits gives an inverse
-// c of 9 significant bits with r = m c - 1 below 2^-8, so that r is exact in a Float and
-// is formed exactly from x split in two (each half times c is exact). Then
-// ln x = (k ln2.hi + ln(1/c).hi) + r + (k ln2.lo + ln(1/c).lo + ln(1 + r) - r): the first
-// sum is exact, the last is below 2^-17 and needs only one Float. k, the step and the
-// scale 2^-k c come from the bits of x, avoiding the slow conversions of this format to
-// integers; the whole path reads no Float from memory but x itself.
-// The exponent and the step are read from x rounded to a double: reading the bits of the
-// Float itself stalls whenever it was just stored from the x87 stack (as every argument
-// passed by value is), a failed store forwarding that cost half the call. Rounding may
-// carry m into the next step or binade, which leaves |r| within 2^-8 + 2^-52.
-inline TwoFloat Log(Float x) {
+// x rounded to a double, its bits, its binary exponent and the step of the logarithm's
+// table its significand falls in. Read from the double: the bits of a Float just stored
+// from the x87 registers (as every argument passed by value is) cannot be read until the
+// store completes, a wait that once cost half the logarithm. Rounding may carry the
+// significand into the next step or binade, which leaves |r| within 2^-8 + 2^-52.
+struct LogReduction {
+    double rounded;
+    std::uint64_t bits;
+    int e;
+    const LogStep& step;
+};
+inline LogReduction ReduceForLog(Float x) {
     const double rounded = double(x);
     std::uint64_t bits;
     std::memcpy(&bits, &rounded, sizeof bits);
-    const int e = int((bits >> 52) & 0x7ff) - 1023;
+    return {rounded, bits, int((bits >> 52) & 0x7ff) - 1023, LogSteps[(bits >> 44) & 0xff]};
+}
+
+// ln x for a finite x > 0, with an absolute error below 2^-80 (plus 2^-100 |ln x|), and
+// within a few units of 2^-64 relative to ln x where x is near 1.
+// x = 2^e m with m in [1, 2); the step of m's first eight fraction bits gives an inverse
+// c of 9 significant bits with r = m c - 1 below 2^-8, so that r is exact in a Float and
+// is formed exactly from x split at its double (each part times 2^-e c is exact). Then
+// ln x = (e ln2.hi + ln(1/c).hi) + r + (e ln2.lo + ln(1/c).lo + ln(1 + r) - r): the first
+// sum is exact, the last is below 2^-17 and needs only one Float.
+inline TwoFloat Log(Float x) {
+    const auto [rounded, bits, e, step] = ReduceForLog(x);
     if (e < -1000 || e >= 1000) [[unlikely]] return LogOfScaled(x);  // so that 2^-e is a double
     // x = high + low: high the double (53 bits), low the rest (at most 11 bits).
     const Float high = rounded;
     const Float low = x - high;
-    const LogStep& step = LogSteps[(bits >> 44) & 0xff];
     // 2^-e from its bits, times the inverse: exact, as 2^-e and c are short.
     const std::uint64_t powerBits = std::uint64_t(1023 - e) << 52;
     double power;
     std::memcpy(&power, &powerBits, sizeof power);
     const Float scale = power * step.inverse;
     const Float r = (high * scale - 1) + low * scale;
-    // ln(1 + r) - r = r^2 (-1/2 + r/3 - r^2/4 + ... + r^7/9) to below 2^-83: the odd and
-    // even terms as two chains in r^2. 1/3 is the only coefficient that needs more than
-    // a double: its second half is added on its own.
+    // ln(1 + r) - r = r^2 (-1/2 + r/3 - r^2/4 + ... + r^7/9) to below 2^-83, by Estrin's
+    // scheme: pairs in r combined with r^2 and r^4. 1/3 is the only coefficient that needs
+    // more than a double: its second half is added on its own.
     constexpr double Third = 1.0 / 3, ThirdLow = double(1.0L / 3 - Third);
     const Float r2 = r * r, r4 = r2 * r2;
     const Float first = (Third * r - 0.5) + ThirdLow * r, second = 1.0 / 5 * r - 1.0 / 4;
@@ -413,15 +421,11 @@ inline TwoFloat Log(Float x) {
 // step as Log: for an estimate wanted before the accurate value, which it does not delay
 // (no library call, and nothing of this format but x).
 inline double RoughLog(Float x) {
-    const double rounded = double(x);
-    std::uint64_t bits;
-    std::memcpy(&bits, &rounded, sizeof bits);
-    const LogStep& step = LogSteps[(bits >> 44) & 0xff];
+    const auto [rounded, bits, e, step] = ReduceForLog(x);
     const std::uint64_t significandBits = (bits & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull;
     double m;  // x's significand, in [1, 2)
     std::memcpy(&m, &significandBits, sizeof m);
     const double r = m * step.inverse - 1;
-    const int e = int((bits >> 52) & 0x7ff) - 1023;
     return (e * (Ln2High + Ln2Low) + step.logHigh) + r * (1 - r / 2);
 }
 
