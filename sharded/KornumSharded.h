@@ -49,6 +49,10 @@ TKorKey KeyOf(Float X) noexcept;
 /// The value whose key is K.
 Float ValueOf(TKorKey K) noexcept;
 
+/// One histogram of `PrefixCounts`: (next 16 bits, count) for each bucket that holds
+/// values, in ascending bucket order.
+using TKorHistogram = std::vector<std::pair<std::uint32_t, std::uint64_t>>;
+
 /// The exact moments of a merged summary, each rounded once to Float from the exact sums.
 struct TKorMoments {
     Float Sum = 0;       ///< The sum of the values.
@@ -84,6 +88,10 @@ public:
     /// Adds the values. NaN and infinities are counted apart; with any of them the
     /// moments follow IEEE arithmetic (see `Moments`).
     void Add(std::span<const Float> Values);
+    /// Adds the values, and adds their counts by the top 16 bits of their keys to
+    /// TopCounts (the histogram of `PrefixCounts` for a request of 0 bits), in the same
+    /// pass over them.
+    void Add(std::span<const Float> Values, TKorHistogram& TopCounts);
     /// Adds the values of Other.
     void Merge(const TKorShardSummary& Other);
 
@@ -113,6 +121,7 @@ public:
 
 private:
     struct Sums;
+    void AddCounting(std::span<const Float> Values, std::uint64_t* Tops);
     Int64 count_ = 0;
     Float minimum_ = 0, maximum_ = 0;
     Int64 nan_ = 0, plusInf_ = 0, minusInf_ = 0;
@@ -125,10 +134,6 @@ struct TKorPrefixRequest {
     TKorKey Prefix;  ///< The key prefix (lower bits ignored).
     int Bits = 0;    ///< Its length in bits, 0 to 64 (a multiple of 16).
 };
-
-/// One histogram of `PrefixCounts`: (next 16 bits, count) for each bucket that holds
-/// values, in ascending bucket order.
-using TKorHistogram = std::vector<std::pair<std::uint32_t, std::uint64_t>>;
 
 /// For each request, the histogram of the values under its prefix by the next 16 bits.
 std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values,
@@ -193,7 +198,9 @@ std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, cons
 /// both at least four tolerances wide), numbered in ascending order. A value alone in its
 /// cell and both neighbours is in no run of more than one value, so only the values in the
 /// other cells, the busy ones, matter to the mode: counting the cells (8 bytes a value, no
-/// values moved) finds them, and only they go on to `TKorRunSummary`.
+/// values moved) finds them, and only they go on to `TKorRunSummary`. The cells are dealt
+/// to parts in blocks of 2^`CellBlockBits` by a hash of the block (`CellPart`): the parts
+/// need nothing known of the values beforehand, and are even whatever their distribution.
 class TKorModeCells {
 public:
     /// The cells for the tolerance `KorTolerance` has now.
@@ -203,16 +210,11 @@ public:
     bool Usable() const noexcept { return shift_ > 0; }
     /// The number of X's cell (NaN after +infinity, -NaN before -infinity).
     std::uint64_t CellOf(const Float& X) const noexcept;
-    /// Range bounds (from `RangeBounds`) as the ascending distinct cells that start the
-    /// second and later of the parts counted by `SplitCells`.
-    std::vector<std::uint64_t> Bounds(const std::vector<TKorKey>& KeyBounds) const;
-    /// The cells of Values (but NaN, never the same as anything) split by Bounds: part i
-    /// holds the cells from Bounds[i - 1] up to
-    /// Bounds[i] and, to judge its edge cells, the cells just outside it (Bounds[i - 1] - 1
-    /// and Bounds[i]).
-    std::vector<std::vector<std::uint64_t>> SplitCells(std::span<const Float> Values,
-                                                       const std::vector<std::uint64_t>& Bounds) const;
-    /// The values of Values whose cell is in Busy (ascending).
+    /// The cells of Values (but NaN, never the same as anything) dealt to Parts parts, one
+    /// piece each for `BusyCells`: each cell as a key of its block's window, and a cell at
+    /// the edge of its block also in the window of the neighbouring block.
+    std::vector<std::vector<std::uint64_t>> SplitCells(std::span<const Float> Values, int Parts) const;
+    /// The values of Values whose cell is in Busy (in any order).
     std::vector<Float> Candidates(std::span<const Float> Values, std::span<const std::uint64_t> Busy) const;
 
 private:
@@ -220,11 +222,15 @@ private:
     int fine_ = 0;   // cells of 2^-fine_ below 1
 };
 
-/// The busy cells from Low up to High of the pieces of one part of `SplitCells` (one
-/// piece a shard), ascending: the cells that hold two values or more, or one value with
-/// another in a neighbouring cell. Count is set to the number of values they hold.
-std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint64_t>>& Pieces, std::uint64_t Low,
-                                     std::uint64_t High, Int64& Count);
+/// Cells are dealt to parts in blocks of 2^CellBlockBits neighbours.
+inline constexpr int CellBlockBits = 12;
+/// The part, from 0 to Parts - 1, whose pieces of `SplitCells` hold Cell as its own.
+int CellPart(std::uint64_t Cell, int Parts) noexcept;
+
+/// The busy cells of one part, from its pieces of `SplitCells` (one piece a shard), in no
+/// particular order: its own cells that hold two values or more, or one value with another
+/// in a neighbouring cell. Count is set to the number of values they hold.
+std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint64_t>>& Pieces, Int64& Count);
 
 /// The ranks the report reads for N values: those of the median and of the two quartile
 /// positions (plus-one-half rule), distinct and ascending.

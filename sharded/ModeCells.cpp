@@ -4,6 +4,7 @@
 #include "core/detail/RadixSort.hpp"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 
@@ -50,24 +51,6 @@ namespace {
     return signExponent & 0x8000 ? Middle - 1 - g : Middle + g;
 }
 
-// The number of bounds at or below c, without branches on the data (the parts of random
-// values are not predictable): by counting when the bounds are few, else by a binary
-// search with conditional moves.
-[[gnu::always_inline]] inline std::size_t PartOf(const std::vector<std::uint64_t>& bounds, std::uint64_t c) noexcept {
-    if (bounds.size() <= 32) {
-        std::size_t below = 0;
-        for (const std::uint64_t b : bounds) below += b <= c;
-        return below;
-    }
-    const std::uint64_t* base = bounds.data();
-    for (std::size_t size = bounds.size(); size > 1;) {
-        const std::size_t half = size / 2;
-        base += std::size_t(base[half - 1] <= c) * half;
-        size -= half;
-    }
-    return std::size_t(base - bounds.data()) + (*base <= c);
-}
-
 // The cell of X read from its bytes (loading it into the FPU costs more than the rest);
 // false for NaN, which is never the same as anything and so has no cell.
 [[gnu::always_inline]] inline bool CellAt(const Float& X, int shift, int fine, std::uint64_t& cell) noexcept {
@@ -87,62 +70,105 @@ std::uint64_t TKorModeCells::CellOf(const Float& X) const noexcept {
     return cell;
 }
 
-std::vector<std::uint64_t> TKorModeCells::Bounds(const std::vector<TKorKey>& KeyBounds) const {
-    std::vector<std::uint64_t> bounds;
-    for (const TKorKey& key : KeyBounds) {
-        // The stored bits of the key. A positive bound at the start of a binary order of
-        // magnitude has no integer bit: it counts as the first value of that order.
-        const bool negative = !(key.High & 0x8000);
-        const std::uint16_t signExponent = negative ? std::uint16_t(~key.High) : std::uint16_t(key.High & 0x7fff);
-        std::uint64_t m = negative ? ~key.Low : key.Low;
-        if (!negative && signExponent != 0 && !(m & IntegerBit)) m = IntegerBit;
-        const std::uint64_t cell = Cell(signExponent, m, shift_, fine_);
-        if (bounds.empty() || cell > bounds.back()) bounds.push_back(cell);
-    }
-    return bounds;
+namespace {
+
+// A part holds its cells as keys: the hashed block of 2^CellBlockBits cells above 13 bits
+// of place in the block's window, where places 1 to 2^CellBlockBits are the block's own
+// cells and places 0 and 2^CellBlockBits + 1 the neighbouring blocks' edge cells. So
+// neighbouring cells are neighbouring keys, and the keys of a part are spread evenly
+// whatever the values' distribution. Cells lie within 2^62 of the middle (the cell of +0),
+// so the blocks number under 2^51 and the hash, an odd multiplier modulo 2^51, can be
+// undone.
+constexpr int PlaceBits = CellBlockBits + 1;
+constexpr int HashBits = 64 - PlaceBits;
+constexpr std::uint64_t HashMask = (std::uint64_t(1) << HashBits) - 1;
+constexpr std::uint64_t FirstCell = Middle - (std::uint64_t(1) << 62);
+constexpr std::uint64_t Multiplier = 0x9E3779B97F4A7C15ULL;
+constexpr std::uint64_t Inverse() {
+    std::uint64_t x = Multiplier;  // Newton's steps for 1 / Multiplier modulo 2^64
+    for (int i = 0; i < 6; ++i) x *= 2 - Multiplier * x;
+    return x;
+}
+static_assert(Multiplier * Inverse() == 1);
+
+constexpr std::uint64_t BlockHash(std::uint64_t block) { return (block * Multiplier) & HashMask; }
+constexpr std::uint64_t WindowKey(std::uint64_t block, std::uint64_t place) {
+    return BlockHash(block) << PlaceBits | place;
+}
+constexpr int PartOfKey(std::uint64_t key, int parts) {
+    return int(((key >> 32) * std::uint64_t(parts)) >> 32);
+}
+// The cell at a key's place, when the place is one of the block's own.
+constexpr bool OwnCell(std::uint64_t key, std::uint64_t& cell) {
+    const std::uint64_t place = key & ((std::uint64_t(1) << PlaceBits) - 1);
+    if (place == 0 || place > (std::uint64_t(1) << CellBlockBits)) return false;
+    const std::uint64_t block = ((key >> PlaceBits) * Inverse()) & HashMask;
+    cell = FirstCell + (block << CellBlockBits) + place - 1;
+    return true;
+}
+
+}  // namespace
+
+int CellPart(std::uint64_t Cell, int Parts) noexcept {
+    return PartOfKey(WindowKey((Cell - FirstCell) >> CellBlockBits, 1), std::max(Parts, 1));
 }
 
 // One pass, the parts reserved at their expected share (they grow if a shard's values
-// crowd into a few). NaN is never the same as anything, so it has no cell.
-std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const Float> Values,
-                                                                  const std::vector<std::uint64_t>& Bounds) const {
-    const std::size_t parts = Bounds.size() + 1;
-    std::vector<std::vector<std::uint64_t>> split(parts);
-    for (auto& part : split) part.reserve(Values.size() / parts + Values.size() / parts / 8 + 16);
+// crowd into a few blocks). NaN is never the same as anything, so it has no cell.
+std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const Float> Values, int Parts) const {
+    constexpr std::uint64_t Last = (std::uint64_t(1) << CellBlockBits) - 1, Blocks = HashMask + 1;
+    const int parts = std::max(Parts, 1);
+    std::vector<std::vector<std::uint64_t>> split(static_cast<std::size_t>(parts));
+    for (auto& part : split) part.reserve(Values.size() / std::size_t(parts) + Values.size() / std::size_t(parts) / 8 + 16);
+    const auto add = [&](std::uint64_t key) { split[std::size_t(PartOfKey(key, parts))].push_back(key); };
     for (const Float& x : Values) {
         std::uint64_t c;
         if (!CellAt(x, shift_, fine_, c)) continue;
-        const std::size_t j = PartOf(Bounds, c);
-        split[j].push_back(c);
-        // A cell at the edge of a part is also a neighbour in the part beside it.
-        if (j > 0 && c == Bounds[j - 1]) split[j - 1].push_back(c);
-        if (j + 1 < parts && c + 1 == Bounds[j]) split[j + 1].push_back(c);
+        const std::uint64_t block = (c - FirstCell) >> CellBlockBits, place = c & Last;
+        add(WindowKey(block, place + 1));
+        // A cell at the edge of its block is also a neighbour in the next block's window.
+        if (place == 0 && block > 0) add(WindowKey(block - 1, Last + 2));
+        if (place == Last && block + 1 < Blocks) add(WindowKey(block + 1, 0));
     }
     return split;
 }
 
-std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint64_t>>& Pieces, std::uint64_t Low,
-                                     std::uint64_t High, Int64& Count) {
+std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint64_t>>& Pieces, Int64& Count) {
     std::size_t total = 0;
     for (const auto& piece : Pieces) total += piece.size();
-    // The cells of all pieces, sorted, in the vectors' storage (huge pages: a part is large).
-    const Kornumglobals::detail::KeyBuffer<std::uint64_t> buffer(total), spare(total);
-    std::uint64_t* const cells = buffer.get();
-    Kornumglobals::detail::RadixSortPieces(Pieces, cells, spare.get());
+    const Kornumglobals::detail::KeyBuffer<std::uint64_t> buffer(total);
     std::vector<std::uint64_t> busy;
     Count = 0;
-    // Each cell of the part with how many values it holds, and its neighbours' cells.
-    for (std::size_t i = 0; i < total;) {
-        std::size_t j = i + 1;
-        while (j < total && cells[j] == cells[i]) ++j;
-        const std::uint64_t c = cells[i];
-        const bool company = j - i > 1 || (i > 0 && cells[i - 1] + 1 == c) || (j < total && cells[j] == c + 1);
-        if (c >= Low && c < High && company) {
-            busy.push_back(c);
-            Count += Int64(j - i);
+    // The keys in ascending order, each distinct key judged once the next one is known:
+    // it is busy when it holds two values or more, or a neighbouring key holds one. Only
+    // the block's own cells are reported; its neighbours' edge cells are there to be seen.
+    bool started = false, previousNeighbours = false;
+    std::uint64_t key = 0;
+    Int64 held = 0;
+    const auto judge = [&](bool nextNeighbours) {
+        std::uint64_t cell;
+        if ((held > 1 || previousNeighbours || nextNeighbours) && OwnCell(key, cell)) {
+            busy.push_back(cell);
+            Count += held;
         }
-        i = j;
-    }
+    };
+    Kornumglobals::detail::VisitSortedPieces(Pieces, buffer.get(), [&](const std::uint64_t* keys, std::size_t n) {
+        for (std::size_t i = 0; i < n; ++i) {
+            const std::uint64_t k = keys[i];
+            if (started && k == key) {
+                ++held;
+                continue;
+            }
+            if (started) {
+                judge(k == key + 1);
+                previousNeighbours = k == key + 1;
+            }
+            started = true;
+            key = k;
+            held = 1;
+        }
+    });
+    if (started) judge(false);
     return busy;
 }
 

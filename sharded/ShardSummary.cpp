@@ -30,22 +30,31 @@ constexpr std::int64_t MaxExponent = 32766 - 16383 - 63;  // of the largest valu
 constexpr std::int64_t Base(int k) { return k * MinExponent; }
 constexpr std::size_t LimbCount(int k) { return std::size_t((k * (MaxExponent - MinExponent) + 64 * k) / 64 + 3); }
 
-struct Decomposed {
-    bool negative;
+// The sign and biased exponent of a stored value, and its 64-bit significand, read from
+// its bytes (a copy through the FPU would cost more than the rest).
+struct Stored {
+    std::uint16_t top;
     std::uint64_t significand;
-    std::int64_t exponent;
 };
-
-// From the stored bytes of the value (a copy through the FPU would cost more than the rest).
-Decomposed Decompose(const Float* x) {
-    unsigned char raw[10];
-    std::memcpy(raw, x, 10);
-    std::uint64_t significand;
-    std::memcpy(&significand, raw, 8);
-    const unsigned top = unsigned(raw[8]) | unsigned(raw[9]) << 8;
-    const std::int64_t biased = top & 0x7fff;
-    return {(top & 0x8000) != 0, significand, biased == 0 ? MinExponent : biased - 16383 - 63};
+Stored Read(const Float* x) {
+    Stored s;
+    std::memcpy(&s.significand, x, 8);
+    std::memcpy(&s.top, reinterpret_cast<const unsigned char*>(x) + 8, 2);
+    return s;
 }
+// The exponent of the significand's unit: subnormals share the smallest one.
+std::int64_t UnitExponent(std::uint16_t top) {
+    const std::int64_t biased = top & 0x7fff;
+    return biased == 0 ? MinExponent : biased - 16383 - 63;
+}
+// The order-preserving key of a stored value as one integer: negative values count down
+// from the sign bit, positive ones up from it (-0 below +0).
+u128 Key(Stored s) {
+    const std::uint64_t negative = -std::uint64_t(s.top >> 15);
+    const std::uint16_t high = std::uint16_t(s.top ^ (0x8000 | (negative & 0x7fff)));
+    return u128(high) << 64 | (s.significand ^ negative);
+}
+Float ValueOfKey(u128 key) { return ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}); }
 
 }  // namespace
 
@@ -61,86 +70,89 @@ struct TKorShardSummary::Sums {
     }
     // The powers of the significands of one sign and exponent, summed as integers: most
     // values of a batch share a few exponents, so the shifted adds into the long
-    // accumulators happen once a bin rather than once a value.
+    // accumulators happen once a bin rather than once a value. Each word of a power goes
+    // to its own 128-bit accumulator, carries left for the end of the batch: no chain of
+    // carries from one value to the next.
     struct Bin {
-        Decomposed Key;
-        std::uint64_t S1[2] = {}, S2[3] = {}, S3[4] = {}, S4[5] = {};
+        std::uint16_t Top = 0;  // sign and biased exponent
+        u128 S1[1] = {}, S2[2] = {}, S3[3] = {}, S4[4] = {};
     };
-    // Adds the 128-bit v to the multi-word sum w.
-    template <std::size_t N>
-    static void AddWide(std::uint64_t (&w)[N], u128 v) {
-        for (std::size_t i = 0; i < N && v; ++i) {
-            const u128 t = u128(w[i]) + std::uint64_t(v);
-            w[i] = std::uint64_t(t);
-            v = (v >> 64) + (t >> 64);
-        }
-    }
-    template <std::size_t N>
-    static void AddWords(std::uint64_t (&w)[N], const std::uint64_t* words, std::size_t count) {
-        u128 carry = 0;
-        for (std::size_t i = 0; i < N; ++i) {
-            carry += u128(w[i]) + (i < count ? words[i] : 0);
-            w[i] = std::uint64_t(carry);
-            carry >>= 64;
-        }
-    }
+    // m^2 = (hi, lo), m^3 = lo m + hi m 2^64, m^4 = lo^2 + 2 lo hi 2^64 + hi^2 2^128.
     static void AddToBin(Bin& bin, std::uint64_t m) {
         const u128 square = u128(m) * m;
-        const std::uint64_t s2[2] = {std::uint64_t(square), std::uint64_t(square >> 64)};
-        const u128 low = u128(s2[0]) * m, high = u128(s2[1]) * m + (low >> 64);
-        const std::uint64_t cube[3] = {std::uint64_t(low), std::uint64_t(high), std::uint64_t(high >> 64)};
-        std::uint64_t fourth[4];
+        const std::uint64_t lo = std::uint64_t(square), hi = std::uint64_t(square >> 64);
+        const u128 c0 = u128(lo) * m, c1 = u128(hi) * m;
+        const u128 f0 = u128(lo) * lo, f1 = u128(lo) * hi, f2 = u128(hi) * hi;
+        bin.S1[0] += m;
+        bin.S2[0] += lo;
+        bin.S2[1] += hi;
+        bin.S3[0] += std::uint64_t(c0);
+        bin.S3[1] += (c0 >> 64) + std::uint64_t(c1);
+        bin.S3[2] += c1 >> 64;
+        bin.S4[0] += std::uint64_t(f0);
+        bin.S4[1] += (f0 >> 64) + 2 * u128(std::uint64_t(f1));
+        bin.S4[2] += 2 * (f1 >> 64) + std::uint64_t(f2);
+        bin.S4[3] += f2 >> 64;
+    }
+    // The accumulators of one power carried into N + 1 words.
+    template <std::size_t N>
+    static std::array<std::uint64_t, N + 1> Carried(const u128 (&accumulators)[N]) {
+        std::array<std::uint64_t, N + 1> words{};
         u128 carry = 0;
-        for (int i = 0; i < 3; ++i) {
-            carry += u128(cube[i]) * m;
-            fourth[i] = std::uint64_t(carry);
+        for (std::size_t i = 0; i < N; ++i) {
+            carry += accumulators[i];
+            words[i] = std::uint64_t(carry);
             carry >>= 64;
         }
-        fourth[3] = std::uint64_t(carry);
-        AddWide(bin.S1, m);
-        AddWords(bin.S2, s2, 2);
-        AddWords(bin.S3, cube, 3);
-        AddWords(bin.S4, fourth, 4);
+        words[N] = std::uint64_t(carry);
+        return words;
     }
-    // Adds the finite values and counts the infinities (NaN are skipped).
-    void AddBatch(std::span<const Float> values, Int64& plusInf, Int64& minusInf) {
+    // Adds the finite values, counts the NaN and infinities, and widens [minKey, maxKey]
+    // to the keys of the values that are not NaN; with tops, counts every value by the top
+    // 16 bits of its key there (2^16 counters).
+    void AddBatch(std::span<const Float> values, Int64& nan, Int64& plusInf, Int64& minusInf, u128& minKey,
+                  u128& maxKey, std::uint64_t* tops) {
         std::vector<Bin> bins;
-        std::unordered_map<std::int64_t, std::size_t> binOf;  // by 2 * exponent + sign
-        std::int64_t lastKey = 0;
-        std::size_t last = 0;
+        std::vector<std::uint32_t> binOf(std::size_t(1) << 16, 0);  // by sign and exponent; 0: none yet
         for (const Float& x : values) {
-            if (!std::isfinite(x)) {
-                if (!std::isnan(x)) ++(x > 0 ? plusInf : minusInf);
-                continue;
+            const Stored s = Read(&x);
+            const u128 key = Key(s);
+            if (tops) ++tops[std::size_t(key >> 64)];
+            if ((s.top & 0x7fff) == 0x7fff) {
+                if (s.significand << 1) {
+                    ++nan;
+                    continue;
+                }
+                ++(s.top & 0x8000 ? minusInf : plusInf);
             }
-            const Decomposed d = Decompose(&x);
-            if (d.significand == 0) continue;
-            const std::int64_t key = 2 * d.exponent + d.negative;
-            if (bins.empty() || key != lastKey) {
-                const auto [at, added] = binOf.try_emplace(key, bins.size());
-                if (added) bins.push_back({d});
-                last = at->second;
-                lastKey = key;
+            if (key < minKey) minKey = key;
+            if (key > maxKey) maxKey = key;
+            if ((s.top & 0x7fff) == 0x7fff || s.significand == 0) continue;
+            std::uint32_t& at = binOf[s.top];
+            if (at == 0) {
+                bins.push_back({s.top});
+                at = std::uint32_t(bins.size());
             }
-            AddToBin(bins[last], d.significand);
+            AddToBin(bins[at - 1], s.significand);
         }
         for (const Bin& bin : bins) {
-            AddPower(1, bin.Key, bin.S1, 2);
-            AddPower(2, bin.Key, bin.S2, 3);
-            AddPower(3, bin.Key, bin.S3, 4);
-            AddPower(4, bin.Key, bin.S4, 5);
+            AddPower(1, bin.Top, Carried(bin.S1));
+            AddPower(2, bin.Top, Carried(bin.S2));
+            AddPower(3, bin.Top, Carried(bin.S3));
+            AddPower(4, bin.Top, Carried(bin.S4));
         }
         Normalize();
     }
-    void AddPower(int k, const Decomposed& d, const std::uint64_t* words, int count) {
-        const bool negative = d.negative && (k % 2 == 1);
+    template <std::size_t Count>
+    void AddPower(int k, std::uint16_t top, const std::array<std::uint64_t, Count>& words) {
+        const bool negative = (top & 0x8000) && (k % 2 == 1);
         std::vector<u128>& limbs = negative ? Negative[k - 1] : Positive[k - 1];
         // Each 64-bit word is added as a 128-bit shifted value, so it spans two limbs at
         // most; the limb index grows by one word each.
-        const std::int64_t bit = k * d.exponent - Base(k);
+        const std::int64_t bit = k * UnitExponent(top) - Base(k);
         const std::size_t limb = std::size_t(bit / 64);
         const int shift = int(bit % 64);
-        for (int i = 0; i < count; ++i) {
+        for (std::size_t i = 0; i < Count; ++i) {
             const u128 shifted = u128(words[i]) << shift;
             limbs[limb + i] += std::uint64_t(shifted);
             limbs[limb + i + 1] += std::uint64_t(shifted >> 64);
@@ -203,24 +215,35 @@ TKorShardSummary& TKorShardSummary::operator=(TKorShardSummary&& o) noexcept {
     return *this;
 }
 
-void TKorShardSummary::Add(std::span<const Float> Values) {
-    for (const Float x : Values) {
-        if (!std::isnan(x)) {
-            if (count_ == nan_ || x < minimum_) minimum_ = x;
-            if (count_ == nan_ || x > maximum_) maximum_ = x;
-        } else {
-            ++nan_;
-        }
-        ++count_;
+void TKorShardSummary::Add(std::span<const Float> Values) { AddCounting(Values, nullptr); }
+
+void TKorShardSummary::Add(std::span<const Float> Values, TKorHistogram& TopCounts) {
+    std::vector<std::uint64_t> tops(std::size_t(1) << 16, 0);
+    for (const auto& [bucket, count] : TopCounts) tops[bucket] += count;
+    AddCounting(Values, tops.data());
+    TopCounts.clear();
+    for (std::uint32_t b = 0; b < tops.size(); ++b)
+        if (tops[b]) TopCounts.push_back({b, tops[b]});
+}
+
+void TKorShardSummary::AddCounting(std::span<const Float> Values, std::uint64_t* Tops) {
+    const bool any = count_ > nan_;
+    u128 minKey = any ? Key(Read(&minimum_)) : ~u128(0), maxKey = any ? Key(Read(&maximum_)) : 0;
+    sums_->AddBatch(Values, nan_, plusInf_, minusInf_, minKey, maxKey, Tops);
+    count_ += Int64(Values.size());
+    if (count_ > nan_) {
+        minimum_ = ValueOfKey(minKey);
+        maximum_ = ValueOfKey(maxKey);
     }
-    sums_->AddBatch(Values, plusInf_, minusInf_);
 }
 
 void TKorShardSummary::Merge(const TKorShardSummary& Other) {
     const bool mine = count_ > nan_, theirs = Other.count_ > Other.nan_;
     if (theirs) {
-        minimum_ = mine ? std::min(minimum_, Other.minimum_) : Other.minimum_;
-        maximum_ = mine ? std::max(maximum_, Other.maximum_) : Other.maximum_;
+        // By their keys, as in Add: -0 is below +0, whichever summary holds it.
+        const auto below = [](const Float& a, const Float& b) { return Key(Read(&a)) < Key(Read(&b)); };
+        minimum_ = mine && !below(Other.minimum_, minimum_) ? minimum_ : Other.minimum_;
+        maximum_ = mine && !below(maximum_, Other.maximum_) ? maximum_ : Other.maximum_;
     }
     count_ += Other.count_;
     nan_ += Other.nan_;

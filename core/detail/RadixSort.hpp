@@ -122,6 +122,75 @@ void RadixSortPieces(const std::vector<std::span<const K>>& pieces, K* data, K* 
     }
 }
 
+// Hands the keys of several pieces to `visit(const K* keys, std::size_t n)` in ascending
+// order, a sorted bucket at a time. The first digit scatters them into `data` (room for
+// all of them) in buckets of about 2048 keys; each bucket is then sorted in a scratch area
+// that stays in the cache, by a digit wide enough to leave a key or two for insertion.
+// Only one area as large as the keys is needed, and it is written once.
+template <class K, class Visit>
+void VisitSortedPieces(const std::vector<std::span<const K>>& pieces, K* data, Visit&& visit) {
+    std::size_t n = 0;
+    K any = 0, all = ~K(0);
+    for (const auto& piece : pieces) {
+        for (const K k : piece) {
+            any |= k;
+            all &= k;
+        }
+        n += piece.size();
+    }
+    if (n == 0) return;
+    if (any == all) {
+        std::fill_n(data, n, any);
+        return visit(static_cast<const K*>(data), n);
+    }
+    const int bits = std::clamp(int(std::bit_width(n >> 11)), 1, 12);
+    const int shift = std::max(HighestBit(any ^ all) + 1 - bits, 0);
+    const std::size_t mask = (std::size_t(1) << bits) - 1;
+    std::vector<std::size_t> count(mask + 1, 0), next(mask + 1);
+    for (const auto& piece : pieces)
+        for (const K k : piece) ++count[std::size_t(k >> shift) & mask];
+    std::size_t sum = 0;
+    for (std::size_t b = 0; b <= mask; ++b) {
+        next[b] = sum;
+        sum += count[b];
+    }
+    for (const auto& piece : pieces)
+        for (const K k : piece) data[next[std::size_t(k >> shift) & mask]++] = k;
+    std::vector<K> scratch;
+    std::vector<std::uint32_t> inner;
+    std::size_t start = 0;
+    for (std::size_t b = 0; b <= mask; ++b) {
+        K* const keys = data + start;
+        const std::size_t m = count[b];
+        start += m;
+        if (m < 2) {
+            if (m) visit(static_cast<const K*>(keys), m);
+            continue;
+        }
+        K bucketAny = 0, bucketAll = ~K(0);
+        for (std::size_t i = 0; i < m; ++i) {
+            bucketAny |= keys[i];
+            bucketAll &= keys[i];
+        }
+        if (bucketAny == bucketAll) {
+            visit(static_cast<const K*>(keys), m);
+            continue;
+        }
+        const int innerBits = std::clamp(int(std::bit_width(m)) - 1, 1, 12);
+        const int innerShift = std::max(HighestBit(bucketAny ^ bucketAll) + 1 - innerBits, 0);
+        const std::size_t innerMask = (std::size_t(1) << innerBits) - 1;
+        if (scratch.size() < m) scratch.resize(m);
+        inner.assign(innerMask + 2, 0);
+        for (std::size_t i = 0; i < m; ++i) ++inner[(std::size_t(keys[i] >> innerShift) & innerMask) + 1];
+        for (std::size_t d = 1; d <= innerMask + 1; ++d) inner[d] += inner[d - 1];
+        for (std::size_t i = 0; i < m; ++i) scratch[inner[std::size_t(keys[i] >> innerShift) & innerMask]++] = keys[i];
+        // inner[d] is now the end of group d, and the start of group d + 1.
+        for (std::size_t d = 0, from = 0; d <= innerMask; from = inner[d++])
+            if (inner[d] - from > 1) RadixSort(scratch.data() + from, keys + from, inner[d] - from, false);
+        visit(static_cast<const K*>(scratch.data()), m);
+    }
+}
+
 // Uninitialised room for n keys, in the vectors' storage (huge pages for a large one).
 template <class K>
 class KeyBuffer {

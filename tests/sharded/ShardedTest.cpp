@@ -70,16 +70,15 @@ std::vector<KornumDescStats::TKorReportEntry> ShardedReport(const std::vector<st
     const TKorModeCells cells;
     std::vector<std::vector<Float>> candidates = shards;
     if (cells.Usable()) {
-        const std::vector<std::uint64_t> cellBounds = cells.Bounds(bounds);
+        constexpr int parts = 3;
         std::vector<std::vector<std::vector<std::uint64_t>>> split;
-        for (const auto& shard : shards) split.push_back(cells.SplitCells(shard, cellBounds));
+        for (const auto& shard : shards) split.push_back(cells.SplitCells(shard, parts));
         std::vector<std::uint64_t> busy;
-        for (std::size_t i = 0; i <= cellBounds.size(); ++i) {
+        for (int i = 0; i < parts; ++i) {
             std::vector<std::span<const std::uint64_t>> pieces;
-            for (const auto& s : split) pieces.push_back(s[i]);
+            for (const auto& s : split) pieces.push_back(s[std::size_t(i)]);
             Int64 count = 0;
-            const auto some = BusyCells(pieces, i == 0 ? 0 : cellBounds[i - 1],
-                                        i == cellBounds.size() ? ~std::uint64_t(0) : cellBounds[i], count);
+            const auto some = BusyCells(pieces, count);
             busy.insert(busy.end(), some.begin(), some.end());
         }
         for (std::size_t i = 0; i < shards.size(); ++i) candidates[i] = cells.Candidates(shards[i], busy);
@@ -312,24 +311,54 @@ TEST(ModeCells, SameValuesShareACellOrNeighbouringCells) {
     Kornumglobals::KorTolerance = saved;
 }
 
-// Company across the edge of two parts is seen from both sides, and a lone value is not
-// busy even when its neighbour's cell is one step away but empty.
-TEST(ModeCells, BusyCellsSeeNeighboursAcrossPartEdges) {
-    const std::vector<std::uint64_t> left = {10, 20, 29, 40}, right = {30, 41, 60, 60};
-    Int64 count = 0;
-    EXPECT_EQ(BusyCells({left, right}, 0, 30, count), (std::vector<std::uint64_t>{29}));
-    EXPECT_EQ(count, 1);
-    // The same cells seen by the part from 30 on, which holds 29 only as a neighbour.
-    EXPECT_EQ(BusyCells({left, right}, 30, ~std::uint64_t(0), count), (std::vector<std::uint64_t>{30, 40, 41, 60}));
-    EXPECT_EQ(count, 5);
-    // SplitCells hands the edge cells to both parts.
+// Values crowded about the edges of blocks of cells, some in equal or neighbouring cells:
+// the parts' busy cells together are the cells with company among all the values' cells,
+// judged here from all of them sorted, and hold the same number of values.
+TEST(ModeCells, BusyCellsOfThePartsAreTheCellsWithCompany) {
     const TKorModeCells cells;
-    const std::vector<std::uint64_t> bounds = {cells.CellOf(2)};
-    const auto split = cells.SplitCells(std::vector<Float>{1, 2, 3, NAN}, bounds);
-    EXPECT_EQ(split[0], (std::vector<std::uint64_t>{cells.CellOf(1), cells.CellOf(2)}));
-    EXPECT_EQ(split[1], (std::vector<std::uint64_t>{cells.CellOf(2), cells.CellOf(3)}));
-    const std::vector<std::uint64_t> edge = {cells.CellOf(2) + 1};
-    EXPECT_EQ(cells.SplitCells(std::vector<Float>{2}, edge)[1], (std::vector<std::uint64_t>{cells.CellOf(2)}));
+    ASSERT_TRUE(cells.Usable());
+    // Cells just above 1 are 2^-46 wide for the tolerance 1e-15 (2^17 units of 2^-63).
+    ASSERT_EQ(cells.CellOf(1 + 0x1p-46L), cells.CellOf(1) + 1);
+    std::mt19937_64 rng(12);
+    for (const int parts : {1, 2, 3, 7}) {
+        std::vector<Float> values;
+        for (int i = 0; i < 400; ++i) values.push_back(1 + Float(rng() % (3u << CellBlockBits)) * 0x1p-46L);
+        values.push_back(NAN);
+        std::vector<std::uint64_t> all;
+        for (const Float x : values)
+            if (!std::isnan(x)) all.push_back(cells.CellOf(x));
+        std::sort(all.begin(), all.end());
+        std::vector<std::uint64_t> expected;
+        Int64 expectedCount = 0;
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            const bool company = (i > 0 && all[i - 1] + 1 >= all[i]) || (i + 1 < all.size() && all[i] + 1 >= all[i + 1]);
+            if (!company) continue;
+            ++expectedCount;
+            if (expected.empty() || expected.back() != all[i]) expected.push_back(all[i]);
+        }
+        // Three shards, each split into the parts.
+        std::vector<std::vector<std::vector<std::uint64_t>>> split;
+        for (int s = 0; s < 3; ++s)
+            split.push_back(cells.SplitCells(std::span<const Float>(values).subspan(std::size_t(s) * 134).first(
+                                                 std::min<std::size_t>(134, values.size() - std::size_t(s) * 134)),
+                                             parts));
+        std::vector<std::uint64_t> busy;
+        Int64 count = 0;
+        for (int p = 0; p < parts; ++p) {
+            std::vector<std::span<const std::uint64_t>> pieces;
+            for (const auto& s : split) pieces.push_back(s[std::size_t(p)]);
+            Int64 some = 0;
+            for (const std::uint64_t c : BusyCells(pieces, some)) {
+                EXPECT_EQ(CellPart(c, parts), p);
+                busy.push_back(c);
+            }
+            count += some;
+        }
+        std::sort(busy.begin(), busy.end());
+        EXPECT_EQ(busy, expected) << parts << " parts";
+        EXPECT_EQ(count, expectedCount) << parts << " parts";
+        EXPECT_LT(expected.size(), all.size());  // some values are alone
+    }
 }
 
 TEST(ShardedReport, EqualsTheSingleProcessReport) {
