@@ -5,9 +5,9 @@ would for all the values at once, and the same bits whatever the number of chunk
 order or the workers that ran them: each chunk is summarised exactly (count, extremes and
 exact sums of the first four powers), the order statistics are selected by counting key
 prefixes over the chunks (two or three passes, no sort of the whole), and only the mode
-moves data: the cells of a fine cut of the number line are counted, each range of cells
-in one task, and only the values of the busy cells, which can be in a run of equal
-neighbours, move on to the runs of each range of keys.
+moves data: the cells of a fine cut of the number line are dealt to parts by a hash of
+their block and counted, each part in one task, beside the other passes, and only the
+values of the busy cells, which can be in a run of equal neighbours, move on to the runs.
 """
 
 from __future__ import annotations
@@ -20,7 +20,7 @@ from . import _kornum
 from ._description import Description
 
 # Buckets of at most this many values are gathered to the client rather than narrowed.
-GATHER_LIMIT = 1 << 16
+GATHER_LIMIT = 1 << 18
 # The mode takes the runs of the values of busy cells in one task up to this many.
 FEW_CANDIDATES = 1 << 22
 
@@ -89,41 +89,50 @@ def _client() -> Any:
         return None
 
 
-def _submit(*tasks: Any) -> Any:
-    """The tasks started on the current client (they run while the caller goes on), or
-    kept for Dask's local scheduler when there is none."""
-    client = _client()
-    return (client, client.compute(list(tasks)) if client is not None else tasks)
+class _Started:
+    """Tasks started on the current client, which run while the caller goes on; with no
+    client they run on Dask's local scheduler, all together when the first is asked for."""
 
+    def __init__(self, tasks: List[Any], background: Sequence[Any] = ()) -> None:
+        self.client = _client()
+        self.tasks = list(tasks) + list(background)
+        if self.client is not None:
+            # The background tasks run when the cluster has nothing more urgent to do.
+            self.tasks = (self.client.compute(list(tasks), priority=1) +
+                          (self.client.compute(list(background), priority=0) if background else []))
+        self.done: Optional[Sequence[Any]] = None
 
-def _gather(progress: bool, submitted: Any) -> Any:
-    """The results of submitted tasks; with progress, Dask's progress bar on standard
-    error."""
-    import contextlib
-    import sys
+    def results(self, progress: bool, indices: Sequence[int]) -> List[Any]:
+        """The results of the tasks at indices; with progress, Dask's progress bar of those
+        still running goes to standard error."""
+        import contextlib
+        import sys
 
-    import dask
+        import dask
 
-    client, tasks = submitted
-    if client is None:
-        if not progress:
-            return dask.compute(*tasks)
-        from dask.diagnostics import ProgressBar
+        if self.client is None:
+            if self.done is None:
+                if progress:
+                    from dask.diagnostics import ProgressBar
 
-        with ProgressBar(out=sys.stderr):
-            return dask.compute(*tasks)
-    if progress:
-        from distributed import progress as show
+                    with ProgressBar(out=sys.stderr):
+                        self.done = dask.compute(*self.tasks)
+                else:
+                    self.done = dask.compute(*self.tasks)
+            return [self.done[i] for i in indices]
+        futures = [self.tasks[i] for i in indices]
+        if progress:
+            from distributed import progress as show
 
-        with contextlib.redirect_stdout(sys.stderr):
-            show(tasks)
-        sys.stderr.write("\n")
-    return tuple(client.gather(tasks))
+            with contextlib.redirect_stdout(sys.stderr):
+                show(futures)
+            sys.stderr.write("\n")
+        return list(self.client.gather(futures))
 
 
 def _compute(progress: bool, *tasks: Any) -> Any:
     """The results of the tasks, on the current client or Dask's local scheduler."""
-    return _gather(progress, _submit(*tasks))
+    return tuple(_Started(list(tasks)).results(progress, range(len(tasks))))
 
 
 def _persisted(chunks: List[Any]) -> List[Any]:
@@ -137,8 +146,18 @@ def _persisted(chunks: List[Any]) -> List[Any]:
     return client.persist(chunks)
 
 
+def _part_count(chunks: List[Any]) -> int:
+    """The parts the mode's cells are dealt to: one a chunk, up to eight a worker thread
+    (small parts sort in the cache, and the last ones to finish keep few workers idle)."""
+    import os
+
+    client = _client()
+    threads = sum(client.nthreads().values()) if client is not None else (os.cpu_count() or 1)
+    return max(1, min(len(chunks), 8 * threads))
+
+
 def _busy(parts: List[Any]) -> Any:
-    """The busy cells of all parts, ascending, and the number of values they hold."""
+    """The busy cells of all parts and the number of values they hold."""
     return np.concatenate([cells for cells, _ in parts]), sum(count for _, count in parts)
 
 
@@ -155,35 +174,41 @@ def _runs_of_few(candidates: List[Optional[np.ndarray]]) -> Any:
     return _kornum.append_runs([_kornum.run_summary(_concatenate(candidates))])
 
 
-def _start_mode(chunks: List[Any], bounds: List[Any], n: int) -> Any:
-    """The mode's first graph started: cells, busy cells and, when those hold few values
-    (the usual case), the candidates and their runs in one task. None when there are few
-    values or the tolerance is too coarse for cells."""
+def _mode_tasks(chunks: List[Any], parts: int) -> List[Any]:
+    """The mode's filter, which needs nothing from the other passes: each chunk's cells
+    dealt to parts, the busy cells of each part, and, when those hold few values (the
+    usual case), the runs of their values in one task. Empty when the tolerance is too
+    coarse for cells."""
     import dask
 
-    cells = _kornum.cell_bounds(bounds)
-    if cells is None or n <= GATHER_LIMIT:
-        return None
-    limits = [0] + cells + [2**64 - 1]
-    split = [dask.delayed(_kornum.split_cells, nout=len(cells) + 1)(c, cells) for c in chunks]
-    busy = dask.delayed(_busy)([dask.delayed(_kornum.busy_cells)([s[i] for s in split], limits[i], limits[i + 1])
-                                for i in range(len(cells) + 1)])
-    few = dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks])
-    return _submit(few, busy)
+    if not _kornum.mode_cells_usable():
+        return []
+    split = [dask.delayed(_kornum.split_cells, nout=parts)(c, parts) for c in chunks]
+    busy = dask.delayed(_busy)([dask.delayed(_kornum.busy_cells)([s[i] for s in split])
+                                for i in range(parts)])
+    return [dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks]), busy]
 
 
-def _finish_mode(started: Any, chunks: List[Any], bounds: List[Any], progress: bool) -> Any:
+def _mode(started: _Started, chunks: List[Any], tops: List[Any], n: int, parts: int, progress: bool) -> Any:
     """Whether the values have a mode, and the mode: the runs of equal neighbours of each
-    range of keys, from the values of the cells the filter found busy (all values when
-    there are few, or when the tolerance is too coarse for cells)."""
+    range of keys, from the values of the cells the filter found busy (from all values
+    when the tolerance is too coarse for cells)."""
     import dask
 
     candidates = chunks
-    if started is not None:
-        result, (busy_cells, _) = _gather(progress, started)
+    if len(started.tasks) > 2 and n > 1:  # a single value is its own mode, though it has no company
+        result, (busy_cells, _) = started.results(progress, [2, 3])
         if result is not None:
             return result
         candidates = [dask.delayed(_kornum.mode_candidates)(c, busy_cells) for c in chunks]
+    # Ranges of keys of about equal counts; a top bucket too large for one is counted finer.
+    heavy = [(bucket, 0, 16) for bucket, count in tops[0] if count * parts > n]
+    finer: List[Any] = []
+    if heavy:
+        counts, = _compute(progress, dask.delayed(_kornum.merge_counts)(
+            [dask.delayed(_kornum.prefix_counts)(c, heavy) for c in chunks]))
+        finer = [(request[0], count) for request, count in zip(heavy, counts)]
+    bounds = _kornum.range_bounds(tops[0], finer, parts)
     splits = [dask.delayed(_kornum.split_by_range, nout=len(bounds) + 1)(c, bounds) for c in candidates]
     runs = [dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)([s[i] for s in splits]))
             for i in range(len(bounds) + 1)]
@@ -214,40 +239,19 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
                    allow_nonfinite=bool(allow_nonfinite))
     chunks = _persisted(_chunks(data, column, reading))
 
-    # Pass 1: the exact summaries and the counts of the top 16 key bits.
-    summary, tops = _compute(progress,
-        dask.delayed(_kornum.merge_summaries)([dask.delayed(_kornum.shard_summary)(c) for c in chunks]),
-        dask.delayed(_kornum.merge_counts)([dask.delayed(_kornum.prefix_counts)(c, [(0, 0, 0)]) for c in chunks]))
+    # Pass 1: the exact summaries and the counts of the top 16 key bits; the mode's filter
+    # starts beside it and runs on the cluster while the selection's passes go on.
+    parts = _part_count(chunks)
+    firsts = [dask.delayed(_kornum.summary_and_tops, nout=2)(c) for c in chunks]
+    started = _Started([dask.delayed(_kornum.merge_summaries)([first[0] for first in firsts]),
+                        dask.delayed(_kornum.merge_counts)([first[1] for first in firsts])],
+                       background=_mode_tasks(chunks, parts) if mode else [])
+    summary, tops = started.results(progress, [0, 1])
     n = _kornum.summary_count(summary)
     if n == 0:
         return Description(_kornum.describe([], population=bool(population)), bool(population))
 
-    parts = max(1, len(chunks))
-    # The top buckets too large for one range of the mode are counted finer, with the
-    # selection's own counts where a pass runs anyway.
-    heavy = [(bucket, 0, 16) for bucket, count in tops[0] if mode and count * parts > n]
-    finer: Dict[int, Any] = {}
-
-    def counted(requests: List[Any]) -> List[Any]:
-        asked = requests + [h for h in heavy if h not in requests and h[0] not in finer]
-        counts, = _compute(progress, dask.delayed(_kornum.merge_counts)(
-            [dask.delayed(_kornum.prefix_counts)(c, asked) for c in chunks]))
-        finer.update((request[0], count) for request, count in zip(asked, counts) if request in heavy)
-        return counts[:len(requests)]
-
-    # The mode's graph starts as soon as its ranges are known, and runs on the cluster
-    # beside the selection's passes.
-    mode_bounds: Optional[List[Any]] = None
-    mode_started = None
-
-    def start_mode() -> None:
-        nonlocal mode_bounds, mode_started
-        if mode and mode_bounds is None and all(h[0] in finer for h in heavy):
-            mode_bounds = _kornum.range_bounds(tops[0], sorted(finer.items()), parts)
-            mode_started = _start_mode(chunks, mode_bounds, n)
-
     selection = _kornum.RankSelection(n, _kornum.report_ranks(n), GATHER_LIMIT)
-    start_mode()
     while not selection.done():
         if selection.gathering():
             prefixes = selection.gather_prefixes()
@@ -256,15 +260,11 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
         elif selection.requests() == [(0, 0, 0)]:
             selection.narrow(tops)  # the first pass counted these already
         else:
-            selection.narrow(counted(selection.requests()))
-        start_mode()
+            counts, = _compute(progress, dask.delayed(_kornum.merge_counts)(
+                [dask.delayed(_kornum.prefix_counts)(c, selection.requests()) for c in chunks]))
+            selection.narrow(counts)
 
-    mode_exists, mode_value = False, 0.0
-    if mode:
-        if mode_bounds is None:
-            counted([])
-            start_mode()
-        mode_exists, mode_value = _finish_mode(mode_started, chunks, mode_bounds, progress)
+    mode_exists, mode_value = _mode(started, chunks, tops, n, parts, progress) if mode else (False, 0.0)
     result = _kornum.ShardedSummary(summary, bool(population), selection.values(), mode_exists, mode_value)
     description = Description(result, bool(population))
     if not mode:

@@ -68,6 +68,20 @@ py::bytes Summarize(py::handle values) {
     return py::bytes(bytes);
 }
 
+// The summary of a shard and the histogram of its top 16 key bits, from one pass.
+py::tuple SummarizeCountingTops(py::handle values) {
+    const FloatArray array = ToFloatVector(values, "values");
+    std::string bytes;
+    std::vector<TKorHistogram> tops(1);
+    {
+        py::gil_scoped_release release;
+        TKorShardSummary summary;
+        summary.Add(Span(array), tops[0]);
+        bytes = summary.Serialize();
+    }
+    return py::make_tuple(py::bytes(bytes), tops);
+}
+
 TKorShardSummary Merged(const std::vector<std::string>& parts) {
     TKorShardSummary merged;
     for (const std::string& part : parts) merged.Merge(TKorShardSummary::Deserialize(part));
@@ -106,6 +120,8 @@ private:
 
 void BindSharded(py::module_& m) {
     m.def("shard_summary", &Summarize, py::arg("values"), "The exact summary of a shard, as bytes (internal).");
+    m.def("summary_and_tops", &SummarizeCountingTops, py::arg("values"),
+          "The exact summary of a shard as bytes, and its prefix counts for a request of 0 bits (internal).");
     m.def("merge_summaries", [](const std::vector<std::string>& parts) { return py::bytes(Merged(parts).Serialize()); },
           py::arg("parts"), "The merged summary of summaries, as bytes (internal).");
     m.def("read_numbers", [](const std::string& path, int field, const std::string& delimiter, bool header,
@@ -168,35 +184,30 @@ void BindSharded(py::module_& m) {
               for (const auto& part : split) parts.append(FromFloats(part));
               return parts;
           }, py::arg("values"), py::arg("bounds"));
-    m.def("cell_bounds", [](const std::vector<KeyTuple>& bounds) -> std::optional<std::vector<std::uint64_t>> {
-              const TKorModeCells cells;
-              if (!cells.Usable()) return std::nullopt;
-              std::vector<TKorKey> keys;
-              for (const auto& [high, low] : bounds) keys.push_back({high, low});
-              return cells.Bounds(keys);
-          }, py::arg("bounds"), "The mode filter's part bounds from range bounds; None when the tolerance allows no cells (internal).");
-    m.def("split_cells", [](py::handle values, const std::vector<std::uint64_t>& bounds) {
+    m.def("mode_cells_usable", [] { return TKorModeCells().Usable(); },
+          "False when the tolerance allows no cells for the mode's filter (internal).");
+    m.def("split_cells", [](py::handle values, int parts) {
               const FloatArray array = ToFloatVector(values, "values");
               std::vector<std::vector<std::uint64_t>> split;
               {
                   py::gil_scoped_release release;
-                  split = TKorModeCells().SplitCells(Span(array), bounds);
+                  split = TKorModeCells().SplitCells(Span(array), parts);
               }
-              py::list parts;
-              for (auto& part : split) parts.append(FromWords(std::move(part)));
-              return parts;
-          }, py::arg("values"), py::arg("bounds"));
-    m.def("busy_cells", [](const std::vector<WordArray>& pieces, std::uint64_t low, std::uint64_t high) {
+              py::list pieces;
+              for (auto& piece : split) pieces.append(FromWords(std::move(piece)));
+              return pieces;
+          }, py::arg("values"), py::arg("parts"));
+    m.def("busy_cells", [](const std::vector<WordArray>& pieces) {
               std::vector<std::span<const std::uint64_t>> spans;
               for (const WordArray& piece : pieces) spans.push_back(Words(piece));
               std::vector<std::uint64_t> busy;
               Int64 count = 0;
               {
                   py::gil_scoped_release release;
-                  busy = BusyCells(spans, low, high, count);
+                  busy = BusyCells(spans, count);
               }
               return py::make_tuple(FromWords(std::move(busy)), count);
-          }, py::arg("pieces"), py::arg("low"), py::arg("high"));
+          }, py::arg("pieces"));
     m.def("mode_candidates", [](py::handle values, const WordArray& busy) {
               const FloatArray array = ToFloatVector(values, "values");
               std::vector<Float> found;
