@@ -143,7 +143,7 @@ void VisitSortedPieces(const std::vector<std::span<const K>>& pieces, K* data, V
         std::fill_n(data, n, any);
         return visit(static_cast<const K*>(data), n);
     }
-    const int bits = std::clamp(int(std::bit_width(n >> 11)), 1, 12);
+    const int bits = std::clamp(int(std::bit_width(n >> 13)), 1, 10);
     const int shift = std::max(HighestBit(any ^ all) + 1 - bits, 0);
     const std::size_t mask = (std::size_t(1) << bits) - 1;
     std::vector<std::size_t> count(mask + 1, 0), next(mask + 1);
@@ -176,7 +176,7 @@ void VisitSortedPieces(const std::vector<std::span<const K>>& pieces, K* data, V
             visit(static_cast<const K*>(keys), m);
             continue;
         }
-        const int innerBits = std::clamp(int(std::bit_width(m)) - 1, 1, 12);
+        const int innerBits = std::clamp(int(std::bit_width(m)), 1, 13);
         const int innerShift = std::max(HighestBit(bucketAny ^ bucketAll) + 1 - innerBits, 0);
         const std::size_t innerMask = (std::size_t(1) << innerBits) - 1;
         if (scratch.size() < m) scratch.resize(m);
@@ -185,8 +185,17 @@ void VisitSortedPieces(const std::vector<std::span<const K>>& pieces, K* data, V
         for (std::size_t d = 1; d <= innerMask + 1; ++d) inner[d] += inner[d - 1];
         for (std::size_t i = 0; i < m; ++i) scratch[inner[std::size_t(keys[i] >> innerShift) & innerMask]++] = keys[i];
         // inner[d] is now the end of group d, and the start of group d + 1.
-        for (std::size_t d = 0, from = 0; d <= innerMask; from = inner[d++])
-            if (inner[d] - from > 1) RadixSort(scratch.data() + from, keys + from, inner[d] - from, false);
+        for (std::size_t d = 0, from = 0; d <= innerMask; from = inner[d++]) {
+            const std::size_t size = inner[d] - from;
+            K* const group = scratch.data() + from;
+            if (size == 2) {
+                const K low = std::min(group[0], group[1]), high = std::max(group[0], group[1]);
+                group[0] = low;
+                group[1] = high;
+            } else if (size > 2) {
+                RadixSort(group, keys + from, size, false);
+            }
+        }
         visit(static_cast<const K*>(scratch.data()), m);
     }
 }
