@@ -92,6 +92,10 @@ public:
     /// TopCounts (the histogram of `PrefixCounts` for a request of 0 bits), in the same
     /// pass over them.
     void Add(std::span<const Float> Values, TKorHistogram& TopCounts);
+    /// Each `Add` also takes doubles: the same as adding the Floats they convert to.
+    void Add(std::span<const double> Values);
+    /// @copydoc Add(std::span<const double>)
+    void Add(std::span<const double> Values, TKorHistogram& TopCounts);
     /// Adds the values of Other.
     void Merge(const TKorShardSummary& Other);
 
@@ -121,7 +125,8 @@ public:
 
 private:
     struct Sums;
-    void AddCounting(std::span<const Float> Values, std::uint64_t* Tops);
+    template <class E>
+    void AddCounting(std::span<const E> Values, std::uint64_t* Tops);
     Int64 count_ = 0;
     Float minimum_ = 0, maximum_ = 0;
     Int64 nan_ = 0, plusInf_ = 0, minusInf_ = 0;
@@ -138,11 +143,17 @@ struct TKorPrefixRequest {
 /// For each request, the histogram of the values under its prefix by the next 16 bits.
 std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values,
                                         const std::vector<TKorPrefixRequest>& Requests);
+/// `PrefixCounts` of doubles: the counts of the Floats they convert to.
+std::vector<TKorHistogram> PrefixCounts(std::span<const double> Values,
+                                        const std::vector<TKorPrefixRequest>& Requests);
 /// Adds histogram From into Into (both for the same requests).
 void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogram>& From);
 /// For each prefix, the values of Values whose key starts with its top Bits bits, in one
 /// pass over the values.
 std::vector<std::vector<Float>> CollectPrefixes(std::span<const Float> Values,
+                                                const std::vector<TKorPrefixRequest>& Prefixes);
+/// `CollectPrefixes` of doubles, collected as the Floats they convert to.
+std::vector<std::vector<Float>> CollectPrefixes(std::span<const double> Values,
                                                 const std::vector<TKorPrefixRequest>& Prefixes);
 
 /// The exact values at given ranks (counted from 0 in ascending order) of N values spread
@@ -191,6 +202,8 @@ std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
 /// Values split by the ranges of Bounds (from `RangeBounds`): part i holds the values whose
 /// key is at least Bounds[i - 1] and below Bounds[i].
 std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, const std::vector<TKorKey>& Bounds);
+/// `SplitByRange` of doubles, split as the Floats they convert to.
+std::vector<std::vector<Float>> SplitByRange(std::span<const double> Values, const std::vector<TKorKey>& Bounds);
 
 /// The filter of the mode. The number line is cut into cells so narrow that two values
 /// `Kornummath::SameFloat` calls the same lie in one cell or in two neighbouring ones (cells
@@ -214,10 +227,18 @@ public:
     /// piece each for `BusyCells`: each cell as a key of its block's window, and a cell at
     /// the edge of its block also in the window of the neighbouring block.
     std::vector<std::vector<std::uint64_t>> SplitCells(std::span<const Float> Values, int Parts) const;
+    /// `SplitCells` of doubles: the cells of the Floats they convert to.
+    std::vector<std::vector<std::uint64_t>> SplitCells(std::span<const double> Values, int Parts) const;
     /// The values of Values whose cell is in Busy (in any order).
     std::vector<Float> Candidates(std::span<const Float> Values, std::span<const std::uint64_t> Busy) const;
+    /// `Candidates` of doubles, found as the Floats they convert to.
+    std::vector<Float> Candidates(std::span<const double> Values, std::span<const std::uint64_t> Busy) const;
 
 private:
+    template <class E>
+    std::vector<std::vector<std::uint64_t>> Split(std::span<const E> Values, int Parts) const;
+    template <class E>
+    std::vector<Float> Find(std::span<const E> Values, std::span<const std::uint64_t> Busy) const;
     int shift_ = 0;  // cells of 2^shift_ units in the last place for magnitudes of 1 and above
     int fine_ = 0;   // cells of 2^-fine_ below 1
 };

@@ -2,6 +2,7 @@
 #include <kornum/KornumSharded.h>
 
 #include "core/detail/RadixSort.hpp"
+#include "sharded/detail/StoredValue.hpp"
 
 #include <algorithm>
 #include <bit>
@@ -51,15 +52,13 @@ namespace {
     return signExponent & 0x8000 ? Middle - 1 - g : Middle + g;
 }
 
-// The cell of X read from its bytes (loading it into the FPU costs more than the rest);
-// false for NaN, which is never the same as anything and so has no cell.
-[[gnu::always_inline]] inline bool CellAt(const Float& X, int shift, int fine, std::uint64_t& cell) noexcept {
-    std::uint64_t m;
-    std::uint16_t signExponent;
-    std::memcpy(&m, &X, 8);
-    std::memcpy(&signExponent, reinterpret_cast<const unsigned char*>(&X) + 8, 2);
-    cell = Cell(signExponent, m, shift, fine);
-    return (signExponent & 0x7fff) != 0x7fff || (m << 1) == 0;
+// The cell of a value from its stored form (loading a Float into the FPU costs more than
+// the rest); false for NaN, which is never the same as anything and so has no cell.
+template <class E>
+[[gnu::always_inline]] inline bool CellAt(const E& X, int shift, int fine, std::uint64_t& cell) noexcept {
+    const detail::Stored s = detail::StoredOf(X);
+    cell = Cell(s.top, s.significand, shift, fine);
+    return (s.top & 0x7fff) != 0x7fff || (s.significand << 1) == 0;
 }
 
 }  // namespace
@@ -115,13 +114,14 @@ int CellPart(std::uint64_t Cell, int Parts) noexcept {
 
 // One pass, the parts reserved at their expected share (they grow if a shard's values
 // crowd into a few blocks). NaN is never the same as anything, so it has no cell.
-std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const Float> Values, int Parts) const {
+template <class E>
+std::vector<std::vector<std::uint64_t>> TKorModeCells::Split(std::span<const E> Values, int Parts) const {
     constexpr std::uint64_t Last = (std::uint64_t(1) << CellBlockBits) - 1, Blocks = HashMask + 1;
     const int parts = std::max(Parts, 1);
     std::vector<std::vector<std::uint64_t>> split(static_cast<std::size_t>(parts));
     for (auto& part : split) part.reserve(Values.size() / std::size_t(parts) + Values.size() / std::size_t(parts) / 8 + 16);
     const auto add = [&](std::uint64_t key) { split[std::size_t(PartOfKey(key, parts))].push_back(key); };
-    for (const Float& x : Values) {
+    for (const E& x : Values) {
         std::uint64_t c;
         if (!CellAt(x, shift_, fine_, c)) continue;
         const std::uint64_t block = (c - FirstCell) >> CellBlockBits, place = c & Last;
@@ -204,7 +204,22 @@ std::vector<std::uint64_t> BusyCells(const std::vector<std::span<const std::uint
 // The busy cells in an open-addressed table twice their number or more (cell numbers are
 // never 0, which marks an empty slot), behind a bitmap of 16 bits a busy cell that turns
 // most values away before the table is read.
+std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const Float> Values, int Parts) const {
+    return Split(Values, Parts);
+}
+std::vector<std::vector<std::uint64_t>> TKorModeCells::SplitCells(std::span<const double> Values, int Parts) const {
+    return Split(Values, Parts);
+}
+
 std::vector<Float> TKorModeCells::Candidates(std::span<const Float> Values, std::span<const std::uint64_t> Busy) const {
+    return Find(Values, Busy);
+}
+std::vector<Float> TKorModeCells::Candidates(std::span<const double> Values, std::span<const std::uint64_t> Busy) const {
+    return Find(Values, Busy);
+}
+
+template <class E>
+std::vector<Float> TKorModeCells::Find(std::span<const E> Values, std::span<const std::uint64_t> Busy) const {
     std::vector<Float> found;
     if (Busy.empty()) return found;
     int bits = 4;
@@ -220,12 +235,12 @@ std::vector<Float> TKorModeCells::Candidates(std::span<const Float> Values, std:
         table[s] = c;
         marks[mark(c) / 64] |= std::uint64_t(1) << (mark(c) % 64);
     }
-    for (const Float& x : Values) {
+    for (const E& x : Values) {
         std::uint64_t c;
         if (!CellAt(x, shift_, fine_, c) || !((marks[mark(c) / 64] >> (mark(c) % 64)) & 1)) continue;
         for (std::size_t s = slot(c); table[s] != 0; s = (s + 1) & mask)
             if (table[s] == c) {
-                found.push_back(x);
+                found.push_back(detail::FloatOf(x));
                 break;
             }
     }

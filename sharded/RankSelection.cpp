@@ -1,6 +1,6 @@
 #include <kornum/KornumSharded.h>
 
-#include "sharded/detail/KeyBytes.hpp"
+#include "sharded/detail/StoredValue.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -27,7 +27,7 @@ std::uint32_t NextBits(u128 key, int bits) { return std::uint32_t(key >> (64 - b
 
 }  // namespace
 
-TKorKey KeyOf(Float X) noexcept { return detail::KeyAt(&X); }
+TKorKey KeyOf(Float X) noexcept { return detail::KeyOf(detail::StoredOf(X)); }
 
 Float ValueOf(TKorKey K) noexcept {
     const u128 key = Wide(K);
@@ -48,15 +48,15 @@ namespace {
 
 // Calls under(i, key, x) for each value x and each request i whose prefix its key starts
 // with, in one pass over the values; each test is a mask and a compare, no shifts.
-template <class Under>
-void ForEachUnderPrefix(std::span<const Float> values, const std::vector<TKorPrefixRequest>& requests, Under under) {
+template <class E, class Under>
+void ForEachUnderPrefix(std::span<const E> values, const std::vector<TKorPrefixRequest>& requests, Under under) {
     std::vector<u128> prefixes, masks;
     for (const TKorPrefixRequest& r : requests) {
         prefixes.push_back(Wide(Truncated(r.Prefix, r.Bits)));
         masks.push_back(r.Bits == 0 ? 0 : ~u128(0) << (80 - r.Bits));
     }
-    for (const Float& x : values) {
-        const u128 key = Wide(detail::KeyAt(&x));
+    for (const E& x : values) {
+        const u128 key = detail::WideKeyOf(detail::StoredOf(x));
         for (std::size_t i = 0; i < requests.size(); ++i)
             if ((key & masks[i]) == prefixes[i]) under(i, key, x);
     }
@@ -64,15 +64,27 @@ void ForEachUnderPrefix(std::span<const Float> values, const std::vector<TKorPre
 
 }  // namespace
 
-std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values, const std::vector<TKorPrefixRequest>& Requests) {
+namespace {
+
+template <class E>
+std::vector<TKorHistogram> CountPrefixes(std::span<const E> Values, const std::vector<TKorPrefixRequest>& Requests) {
     std::vector<std::vector<std::uint64_t>> dense(Requests.size(), std::vector<std::uint64_t>(1 << 16));
     ForEachUnderPrefix(Values, Requests,
-                       [&](std::size_t i, u128 key, const Float&) { ++dense[i][NextBits(key, Requests[i].Bits)]; });
+                       [&](std::size_t i, u128 key, const E&) { ++dense[i][NextBits(key, Requests[i].Bits)]; });
     std::vector<TKorHistogram> result(Requests.size());
     for (std::size_t i = 0; i < Requests.size(); ++i)
         for (std::uint32_t b = 0; b < dense[i].size(); ++b)
             if (dense[i][b]) result[i].push_back({b, dense[i][b]});
     return result;
+}
+
+}  // namespace
+
+std::vector<TKorHistogram> PrefixCounts(std::span<const Float> Values, const std::vector<TKorPrefixRequest>& Requests) {
+    return CountPrefixes(Values, Requests);
+}
+std::vector<TKorHistogram> PrefixCounts(std::span<const double> Values, const std::vector<TKorPrefixRequest>& Requests) {
+    return CountPrefixes(Values, Requests);
 }
 
 void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogram>& From) {
@@ -91,11 +103,24 @@ void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogr
     }
 }
 
+namespace {
+
+template <class E>
+std::vector<std::vector<Float>> Collect(std::span<const E> Values, const std::vector<TKorPrefixRequest>& Prefixes) {
+    std::vector<std::vector<Float>> result(Prefixes.size());
+    ForEachUnderPrefix(Values, Prefixes, [&](std::size_t i, u128, const E& x) { result[i].push_back(detail::FloatOf(x)); });
+    return result;
+}
+
+}  // namespace
+
 std::vector<std::vector<Float>> CollectPrefixes(std::span<const Float> Values,
                                                 const std::vector<TKorPrefixRequest>& Prefixes) {
-    std::vector<std::vector<Float>> result(Prefixes.size());
-    ForEachUnderPrefix(Values, Prefixes, [&](std::size_t i, u128, const Float& x) { result[i].push_back(x); });
-    return result;
+    return Collect(Values, Prefixes);
+}
+std::vector<std::vector<Float>> CollectPrefixes(std::span<const double> Values,
+                                                const std::vector<TKorPrefixRequest>& Prefixes) {
+    return Collect(Values, Prefixes);
 }
 
 std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
@@ -126,20 +151,32 @@ std::vector<TKorKey> RangeBounds(const TKorHistogram& TopCounts,
     return bounds;
 }
 
+namespace {
+
 // Each value's range first, then the parts filled at their final sizes: no part grows
 // by reallocation, which would copy most values several times.
-std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, const std::vector<TKorKey>& Bounds) {
+template <class E>
+std::vector<std::vector<Float>> SplitRanges(std::span<const E> Values, const std::vector<TKorKey>& Bounds) {
     std::vector<std::uint32_t> rangeOf(Values.size());
     std::vector<std::size_t> sizes(Bounds.size() + 1);
     for (std::size_t i = 0; i < Values.size(); ++i) {
-        const TKorKey key = detail::KeyAt(&Values[i]);
+        const TKorKey key = detail::KeyOf(detail::StoredOf(Values[i]));
         rangeOf[i] = std::uint32_t(std::upper_bound(Bounds.begin(), Bounds.end(), key) - Bounds.begin());
         ++sizes[rangeOf[i]];
     }
     std::vector<std::vector<Float>> parts(Bounds.size() + 1);
     for (std::size_t j = 0; j < parts.size(); ++j) parts[j].reserve(sizes[j]);
-    for (std::size_t i = 0; i < Values.size(); ++i) parts[rangeOf[i]].push_back(Values[i]);
+    for (std::size_t i = 0; i < Values.size(); ++i) parts[rangeOf[i]].push_back(detail::FloatOf(Values[i]));
     return parts;
+}
+
+}  // namespace
+
+std::vector<std::vector<Float>> SplitByRange(std::span<const Float> Values, const std::vector<TKorKey>& Bounds) {
+    return SplitRanges(Values, Bounds);
+}
+std::vector<std::vector<Float>> SplitByRange(std::span<const double> Values, const std::vector<TKorKey>& Bounds) {
+    return SplitRanges(Values, Bounds);
 }
 
 // ---- Selection by key prefixes ---------------------------------------------------------

@@ -2,6 +2,7 @@
 
 #include "sharded/detail/Bytes.hpp"
 #include "sharded/detail/ExactNumber.hpp"
+#include "sharded/detail/StoredValue.hpp"
 
 #include <kornum/Kornummath.h>
 
@@ -20,6 +21,8 @@ namespace {
 __extension__ typedef unsigned __int128 u128;  // GCC's 128-bit integer
 using detail::ExactNumber;
 using detail::Quad;
+using detail::Stored;
+using detail::StoredOf;
 
 // A finite x is Significand * 2^Exponent with a 64-bit integer significand.
 constexpr std::int64_t MinExponent = 1 - 16383 - 63;      // of the subnormals
@@ -30,29 +33,10 @@ constexpr std::int64_t MaxExponent = 32766 - 16383 - 63;  // of the largest valu
 constexpr std::int64_t Base(int k) { return k * MinExponent; }
 constexpr std::size_t LimbCount(int k) { return std::size_t((k * (MaxExponent - MinExponent) + 64 * k) / 64 + 3); }
 
-// The sign and biased exponent of a stored value, and its 64-bit significand, read from
-// its bytes (a copy through the FPU would cost more than the rest).
-struct Stored {
-    std::uint16_t top;
-    std::uint64_t significand;
-};
-Stored Read(const Float* x) {
-    Stored s;
-    std::memcpy(&s.significand, x, 8);
-    std::memcpy(&s.top, reinterpret_cast<const unsigned char*>(x) + 8, 2);
-    return s;
-}
 // The exponent of the significand's unit: subnormals share the smallest one.
 std::int64_t UnitExponent(std::uint16_t top) {
     const std::int64_t biased = top & 0x7fff;
     return biased == 0 ? MinExponent : biased - 16383 - 63;
-}
-// The order-preserving key of a stored value as one integer: negative values count down
-// from the sign bit, positive ones up from it (-0 below +0).
-u128 Key(Stored s) {
-    const std::uint64_t negative = -std::uint64_t(s.top >> 15);
-    const std::uint16_t high = std::uint16_t(s.top ^ (0x8000 | (negative & 0x7fff)));
-    return u128(high) << 64 | (s.significand ^ negative);
 }
 Float ValueOfKey(u128 key) { return ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}); }
 
@@ -110,13 +94,14 @@ struct TKorShardSummary::Sums {
     // Adds the finite values, counts the NaN and infinities, and widens [minKey, maxKey]
     // to the keys of the values that are not NaN; with tops, counts every value by the top
     // 16 bits of its key there (2^16 counters).
-    void AddBatch(std::span<const Float> values, Int64& nan, Int64& plusInf, Int64& minusInf, u128& minKey,
+    template <class E>
+    void AddBatch(std::span<const E> values, Int64& nan, Int64& plusInf, Int64& minusInf, u128& minKey,
                   u128& maxKey, std::uint64_t* tops) {
         std::vector<Bin> bins;
         std::vector<std::uint32_t> binOf(std::size_t(1) << 16, 0);  // by sign and exponent; 0: none yet
-        for (const Float& x : values) {
-            const Stored s = Read(&x);
-            const u128 key = Key(s);
+        for (const E& x : values) {
+            const Stored s = StoredOf(x);
+            const u128 key = detail::WideKeyOf(s);
             if (tops) ++tops[std::size_t(key >> 64)];
             if ((s.top & 0x7fff) == 0x7fff) {
                 if (s.significand << 1) {
@@ -216,19 +201,36 @@ TKorShardSummary& TKorShardSummary::operator=(TKorShardSummary&& o) noexcept {
 }
 
 void TKorShardSummary::Add(std::span<const Float> Values) { AddCounting(Values, nullptr); }
+void TKorShardSummary::Add(std::span<const double> Values) { AddCounting(Values, nullptr); }
 
-void TKorShardSummary::Add(std::span<const Float> Values, TKorHistogram& TopCounts) {
+namespace {
+
+// Adds the values to Summary through Add, and their counts by the top 16 key bits to
+// TopCounts.
+template <class E, class Add>
+void AddCountingTops(std::span<const E> values, TKorHistogram& topCounts, Add add) {
     std::vector<std::uint64_t> tops(std::size_t(1) << 16, 0);
-    for (const auto& [bucket, count] : TopCounts) tops[bucket] += count;
-    AddCounting(Values, tops.data());
-    TopCounts.clear();
+    for (const auto& [bucket, count] : topCounts) tops[bucket] += count;
+    add(tops.data());
+    topCounts.clear();
     for (std::uint32_t b = 0; b < tops.size(); ++b)
-        if (tops[b]) TopCounts.push_back({b, tops[b]});
+        if (tops[b]) topCounts.push_back({b, tops[b]});
 }
 
-void TKorShardSummary::AddCounting(std::span<const Float> Values, std::uint64_t* Tops) {
+}  // namespace
+
+void TKorShardSummary::Add(std::span<const Float> Values, TKorHistogram& TopCounts) {
+    AddCountingTops(Values, TopCounts, [&](std::uint64_t* tops) { AddCounting(Values, tops); });
+}
+void TKorShardSummary::Add(std::span<const double> Values, TKorHistogram& TopCounts) {
+    AddCountingTops(Values, TopCounts, [&](std::uint64_t* tops) { AddCounting(Values, tops); });
+}
+
+template <class E>
+void TKorShardSummary::AddCounting(std::span<const E> Values, std::uint64_t* Tops) {
     const bool any = count_ > nan_;
-    u128 minKey = any ? Key(Read(&minimum_)) : ~u128(0), maxKey = any ? Key(Read(&maximum_)) : 0;
+    u128 minKey = any ? detail::WideKeyOf(StoredOf(minimum_)) : ~u128(0);
+    u128 maxKey = any ? detail::WideKeyOf(StoredOf(maximum_)) : 0;
     sums_->AddBatch(Values, nan_, plusInf_, minusInf_, minKey, maxKey, Tops);
     count_ += Int64(Values.size());
     if (count_ > nan_) {
@@ -241,7 +243,7 @@ void TKorShardSummary::Merge(const TKorShardSummary& Other) {
     const bool mine = count_ > nan_, theirs = Other.count_ > Other.nan_;
     if (theirs) {
         // By their keys, as in Add: -0 is below +0, whichever summary holds it.
-        const auto below = [](const Float& a, const Float& b) { return Key(Read(&a)) < Key(Read(&b)); };
+        const auto below = [](const Float& a, const Float& b) { return KeyOf(a) < KeyOf(b); };
         minimum_ = mine && !below(Other.minimum_, minimum_) ? minimum_ : Other.minimum_;
         maximum_ = mine && !below(maximum_, Other.maximum_) ? maximum_ : Other.maximum_;
     }

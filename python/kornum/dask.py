@@ -26,7 +26,11 @@ FEW_CANDIDATES = 1 << 22
 
 
 def _as_floats(chunk: Any) -> np.ndarray:
-    return np.ascontiguousarray(np.asarray(chunk, dtype=np.longdouble).ravel())
+    """A chunk as one contiguous array: float64 kept as it is (the passes read doubles as
+    the long doubles they convert to, at half the bytes), anything else as long doubles."""
+    array = np.asarray(chunk)
+    dtype = np.float64 if array.dtype == np.float64 else np.longdouble
+    return np.ascontiguousarray(array.ravel(), dtype=dtype)
 
 
 def _chunks(data: Any, column: Any, reading: Dict[str, Any]) -> List[Any]:

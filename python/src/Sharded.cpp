@@ -56,29 +56,42 @@ std::vector<RequestTuple> Tuples(const std::vector<TKorPrefixRequest>& requests)
     return tuples;
 }
 
-py::bytes Summarize(py::handle values) {
-    const FloatArray array = ToFloatVector(values, "values");
-    std::string bytes;
-    {
-        py::gil_scoped_release release;
-        TKorShardSummary summary;
-        summary.Add(Span(array));
-        bytes = summary.Serialize();
+// Runs a pass over a shard's values without the GIL: a C-contiguous float64 array is read
+// in place as doubles (the passes take them as the Floats they convert to, at half the
+// bytes), anything else as an array of Floats.
+template <class Pass>
+auto OverShard(py::handle values, Pass pass) {
+    using Doubles = py::array_t<double, py::array::c_style>;
+    if (py::isinstance<Doubles>(values)) {
+        const auto array = py::reinterpret_borrow<Doubles>(values);
+        if (array.ndim() == 1) {
+            const std::span<const double> doubles(array.data(), std::size_t(array.size()));
+            py::gil_scoped_release release;
+            return pass(doubles);
+        }
     }
-    return py::bytes(bytes);
+    const FloatArray array = ToFloatVector(values, "values");
+    const std::span<const Float> floats = Span(array);
+    py::gil_scoped_release release;
+    return pass(floats);
+}
+
+py::bytes Summarize(py::handle values) {
+    return py::bytes(OverShard(values, [](auto shard) {
+        TKorShardSummary summary;
+        summary.Add(shard);
+        return summary.Serialize();
+    }));
 }
 
 // The summary of a shard and the histogram of its top 16 key bits, from one pass.
 py::tuple SummarizeCountingTops(py::handle values) {
-    const FloatArray array = ToFloatVector(values, "values");
-    std::string bytes;
     std::vector<TKorHistogram> tops(1);
-    {
-        py::gil_scoped_release release;
+    const std::string bytes = OverShard(values, [&](auto shard) {
         TKorShardSummary summary;
-        summary.Add(Span(array), tops[0]);
-        bytes = summary.Serialize();
-    }
+        summary.Add(shard, tops[0]);
+        return summary.Serialize();
+    });
     return py::make_tuple(py::bytes(bytes), tops);
 }
 
@@ -145,9 +158,8 @@ void BindSharded(py::module_& m) {
     m.def("summary_count", [](const std::string& s) { return TKorShardSummary::Deserialize(s).Count(); }, py::arg("summary"));
     m.def("report_ranks", &ReportRanks, py::arg("n"));
     m.def("prefix_counts", [](py::handle values, const std::vector<RequestTuple>& requests) {
-              const FloatArray array = ToFloatVector(values, "values");
-              py::gil_scoped_release release;
-              return PrefixCounts(Span(array), Requests(requests));
+              const std::vector<TKorPrefixRequest> asked = Requests(requests);
+              return OverShard(values, [&](auto shard) { return PrefixCounts(shard, asked); });
           }, py::arg("values"), py::arg("requests"));
     m.def("merge_counts", [](const std::vector<std::vector<TKorHistogram>>& parts) {
               std::vector<TKorHistogram> merged;
@@ -155,12 +167,8 @@ void BindSharded(py::module_& m) {
               return merged;
           }, py::arg("parts"));
     m.def("collect_prefix", [](py::handle values, const std::vector<RequestTuple>& prefixes) {
-              const FloatArray array = ToFloatVector(values, "values");
-              std::vector<std::vector<Float>> collected;
-              {
-                  py::gil_scoped_release release;
-                  collected = CollectPrefixes(Span(array), Requests(prefixes));
-              }
+              const std::vector<TKorPrefixRequest> asked = Requests(prefixes);
+              const auto collected = OverShard(values, [&](auto shard) { return CollectPrefixes(shard, asked); });
               py::list lists;
               for (const auto& some : collected) lists.append(FromFloats(some));
               return lists;
@@ -172,14 +180,9 @@ void BindSharded(py::module_& m) {
               return bounds;
           }, py::arg("top_counts"), py::arg("finer"), py::arg("parts"));
     m.def("split_by_range", [](py::handle values, const std::vector<KeyTuple>& bounds) {
-              const FloatArray array = ToFloatVector(values, "values");
               std::vector<TKorKey> keys;
               for (const auto& [high, low] : bounds) keys.push_back({high, low});
-              std::vector<std::vector<Float>> split;
-              {
-                  py::gil_scoped_release release;
-                  split = SplitByRange(Span(array), keys);
-              }
+              const auto split = OverShard(values, [&](auto shard) { return SplitByRange(shard, keys); });
               py::list parts;
               for (const auto& part : split) parts.append(FromFloats(part));
               return parts;
@@ -187,12 +190,7 @@ void BindSharded(py::module_& m) {
     m.def("mode_cells_usable", [] { return TKorModeCells().Usable(); },
           "False when the tolerance allows no cells for the mode's filter (internal).");
     m.def("split_cells", [](py::handle values, int parts) {
-              const FloatArray array = ToFloatVector(values, "values");
-              std::vector<std::vector<std::uint64_t>> split;
-              {
-                  py::gil_scoped_release release;
-                  split = TKorModeCells().SplitCells(Span(array), parts);
-              }
+              auto split = OverShard(values, [&](auto shard) { return TKorModeCells().SplitCells(shard, parts); });
               py::list pieces;
               for (auto& piece : split) pieces.append(FromWords(std::move(piece)));
               return pieces;
@@ -209,13 +207,8 @@ void BindSharded(py::module_& m) {
               return py::make_tuple(FromWords(std::move(busy)), count);
           }, py::arg("pieces"));
     m.def("mode_candidates", [](py::handle values, const WordArray& busy) {
-              const FloatArray array = ToFloatVector(values, "values");
-              std::vector<Float> found;
-              {
-                  py::gil_scoped_release release;
-                  found = TKorModeCells().Candidates(Span(array), Words(busy));
-              }
-              return FromFloats(found);
+              const std::span<const std::uint64_t> cells = Words(busy);
+              return FromFloats(OverShard(values, [&](auto shard) { return TKorModeCells().Candidates(shard, cells); }));
           }, py::arg("values"), py::arg("busy"));
     m.def("run_summary", [](py::handle values) {
               const FloatArray array = ToFloatVector(values, "values");

@@ -10,6 +10,7 @@
 #include <map>
 #include <set>
 #include <cmath>
+#include <cstring>
 #include <random>
 
 using namespace KornumSharded;
@@ -393,4 +394,51 @@ TEST(ShardedReport, EqualsTheSingleProcessReport) {
         const auto single = SingleReport(values, false);
         ExpectSameReport(single, ShardedReport(RandomShards(values, shards, rng), false, 8));
     }
+}
+
+namespace {
+
+bool SameBits(const std::vector<Float>& a, const std::vector<Float>& b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if (std::memcmp(&a[i], &b[i], 10) != 0) return false;
+    return true;
+}
+
+}  // namespace
+
+// Doubles go through every pass as the Floats they convert to: subnormal doubles become
+// normal Floats, NaN become quiet, -0 stays below +0.
+TEST(ShardedDoubles, EveryPassGivesWhatTheConvertedFloatsGive) {
+    std::mt19937_64 rng(21);
+    std::vector<double> doubles = {0.0, -0.0, 1.0, -1.0, 5e-324, -5e-324, 2.2250738585072009e-308, 1e-310,
+                                   std::numeric_limits<double>::max(), -std::numeric_limits<double>::max(),
+                                   INFINITY, -INFINITY, std::numeric_limits<double>::quiet_NaN(),
+                                   std::numeric_limits<double>::signaling_NaN(), 1 + 0x1p-52, 1 + 0x1p-46};
+    std::normal_distribution<double> normal(3, 2);
+    for (int i = 0; i < 3000; ++i) doubles.push_back(i % 3 ? normal(rng) : std::ldexp(normal(rng), int(rng() % 2000) - 1000));
+    for (int i = 0; i < 200; ++i) doubles.push_back(doubles[rng() % doubles.size()]);  // repeats for the mode's cells
+    const std::vector<Float> floats(doubles.begin(), doubles.end());
+
+    TKorShardSummary fromDoubles, fromFloats;
+    TKorHistogram doubleTops, floatTops;
+    fromDoubles.Add(doubles, doubleTops);
+    fromFloats.Add(floats, floatTops);
+    EXPECT_EQ(fromDoubles.Serialize(), fromFloats.Serialize());
+    EXPECT_EQ(doubleTops, floatTops);
+
+    std::vector<TKorPrefixRequest> requests = {{}, {KeyOf(3), 16}, {KeyOf(-1), 32}};
+    EXPECT_EQ(PrefixCounts(doubles, requests), PrefixCounts(floats, requests));
+    const auto collectedFromDoubles = CollectPrefixes(doubles, requests), collectedFromFloats = CollectPrefixes(floats, requests);
+    for (std::size_t i = 0; i < requests.size(); ++i) EXPECT_TRUE(SameBits(collectedFromDoubles[i], collectedFromFloats[i]));
+    const std::vector<TKorKey> bounds = {KeyOf(-2), KeyOf(0), KeyOf(4)};
+    const auto rangesFromDoubles = SplitByRange(doubles, bounds), rangesFromFloats = SplitByRange(floats, bounds);
+    for (std::size_t i = 0; i <= bounds.size(); ++i) EXPECT_TRUE(SameBits(rangesFromDoubles[i], rangesFromFloats[i]));
+
+    const TKorModeCells cells;
+    EXPECT_EQ(cells.SplitCells(doubles, 3), cells.SplitCells(floats, 3));
+    std::vector<std::uint64_t> busy;
+    for (const double x : doubles) busy.push_back(cells.CellOf(Float(x)));
+    busy.resize(busy.size() / 2);
+    EXPECT_TRUE(SameBits(cells.Candidates(doubles, busy), cells.Candidates(floats, busy)));
 }
