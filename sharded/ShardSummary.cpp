@@ -6,11 +6,13 @@
 
 #include <kornum/Kornummath.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstring>
 #include <limits>
 #include <unordered_map>
+#include <x86intrin.h>
 
 namespace KornumSharded {
 
@@ -54,41 +56,54 @@ struct TKorShardSummary::Sums {
     }
     // The powers of the significands of one sign and exponent, summed as integers: most
     // values of a batch share a few exponents, so the shifted adds into the long
-    // accumulators happen once a bin rather than once a value. Each word of a power goes
-    // to its own 128-bit accumulator, carries left for the end of the batch: no chain of
-    // carries from one value to the next.
+    // accumulators happen once a bin rather than once a value. Each sum has a word more
+    // than its power, room for 2^64 values.
+    using Word = unsigned long long;  // the type of the carry intrinsics
     struct Bin {
         std::uint16_t Top = 0;  // sign and biased exponent
-        u128 S1[1] = {}, S2[2] = {}, S3[3] = {}, S4[4] = {};
+        Word S1[2] = {}, S2[3] = {}, S3[4] = {}, S4[5] = {};
     };
-    // m^2 = (hi, lo), m^3 = lo m + hi m 2^64, m^4 = lo^2 + 2 lo hi 2^64 + hi^2 2^128.
-    static void AddToBin(Bin& bin, std::uint64_t m) {
-        const u128 square = u128(m) * m;
-        const std::uint64_t lo = std::uint64_t(square), hi = std::uint64_t(square >> 64);
-        const u128 c0 = u128(lo) * m, c1 = u128(hi) * m;
-        const u128 f0 = u128(lo) * lo, f1 = u128(lo) * hi, f2 = u128(hi) * hi;
-        bin.S1[0] += m;
-        bin.S2[0] += lo;
-        bin.S2[1] += hi;
-        bin.S3[0] += std::uint64_t(c0);
-        bin.S3[1] += (c0 >> 64) + std::uint64_t(c1);
-        bin.S3[2] += c1 >> 64;
-        bin.S4[0] += std::uint64_t(f0);
-        bin.S4[1] += (f0 >> 64) + 2 * u128(std::uint64_t(f1));
-        bin.S4[2] += 2 * (f1 >> 64) + std::uint64_t(f2);
-        bin.S4[3] += f2 >> 64;
+    // The 128-bit product of a and b as its low and high words.
+    [[gnu::always_inline]] static void Product(Word a, Word b, Word& low,
+                                               Word& high) {
+        const u128 p = u128(a) * b;
+        low = Word(p);
+        high = Word(p >> 64);
     }
-    // The accumulators of one power carried into N + 1 words.
+    // Adds the N words of a power into a sum of N + 1 words, carrying as it goes.
     template <std::size_t N>
-    static std::array<std::uint64_t, N + 1> Carried(const u128 (&accumulators)[N]) {
-        std::array<std::uint64_t, N + 1> words{};
-        u128 carry = 0;
-        for (std::size_t i = 0; i < N; ++i) {
-            carry += accumulators[i];
-            words[i] = std::uint64_t(carry);
-            carry >>= 64;
-        }
-        words[N] = std::uint64_t(carry);
+    [[gnu::always_inline]] static void AddWords(Word (&sum)[N + 1], const Word (&words)[N]) {
+        unsigned char carry = 0;
+        for (std::size_t i = 0; i < N; ++i) carry = _addcarry_u64(carry, sum[i], words[i], &sum[i]);
+        sum[N] += carry;
+    }
+    // m^2 = s, m^3 = s0 m + s1 m 2^64, m^4 = s0^2 + 2 s0 s1 2^64 + s1^2 2^128, each formed
+    // exactly in 64-bit words (one 64 x 64 product a multiplication).
+    [[gnu::always_inline]] static void AddToBin(Bin& bin, Word m) {
+        Word square[2], a[2], b[2], p[2], q[2], r[2];
+        Product(m, m, square[0], square[1]);
+        Product(square[0], m, a[0], a[1]);
+        Product(square[1], m, b[0], b[1]);
+        Word cube[3] = {a[0]};
+        cube[2] = b[1] + _addcarry_u64(0, a[1], b[0], &cube[1]);
+        Product(square[0], square[0], p[0], p[1]);
+        Product(square[0], square[1], q[0], q[1]);
+        Product(square[1], square[1], r[0], r[1]);
+        const Word twice[3] = {q[0] << 1, q[1] << 1 | q[0] >> 63, q[1] >> 63};
+        Word fourth[4] = {p[0]};
+        unsigned char carry = _addcarry_u64(0, p[1], twice[0], &fourth[1]);
+        carry = _addcarry_u64(carry, r[0], twice[1], &fourth[2]);
+        fourth[3] = r[1] + twice[2] + carry;
+        const Word first[1] = {m};
+        AddWords<1>(bin.S1, first);
+        AddWords<2>(bin.S2, square);
+        AddWords<3>(bin.S3, cube);
+        AddWords<4>(bin.S4, fourth);
+    }
+    template <std::size_t N>
+    static std::array<std::uint64_t, N> Words(const Word (&sum)[N]) {
+        std::array<std::uint64_t, N> words;
+        std::copy(sum, sum + N, words.begin());
         return words;
     }
     // Adds the finite values, counts the NaN and infinities, and widens [minKey, maxKey]
@@ -118,13 +133,13 @@ struct TKorShardSummary::Sums {
                 bins.push_back({s.top});
                 at = std::uint32_t(bins.size());
             }
-            AddToBin(bins[at - 1], s.significand);
+            AddToBin(bins[at - 1], Word(s.significand));
         }
         for (const Bin& bin : bins) {
-            AddPower(1, bin.Top, Carried(bin.S1));
-            AddPower(2, bin.Top, Carried(bin.S2));
-            AddPower(3, bin.Top, Carried(bin.S3));
-            AddPower(4, bin.Top, Carried(bin.S4));
+            AddPower(1, bin.Top, Words(bin.S1));
+            AddPower(2, bin.Top, Words(bin.S2));
+            AddPower(3, bin.Top, Words(bin.S3));
+            AddPower(4, bin.Top, Words(bin.S4));
         }
         Normalize();
     }
