@@ -318,8 +318,12 @@ TEST(ModeCells, SameValuesShareACellOrNeighbouringCells) {
 TEST(ModeCells, BusyCellsOfThePartsAreTheCellsWithCompany) {
     const TKorModeCells cells;
     ASSERT_TRUE(cells.Usable());
-    // Cells just above 1 are 2^-46 wide for the tolerance 1e-15 (2^17 units of 2^-63).
+    // For the tolerance 1e-15, cells are 2^17 units in the last place wide above 1 (2^-46
+    // just above 1) and 2^-47 wide below 1.
     ASSERT_EQ(cells.CellOf(1 + 0x1p-46L), cells.CellOf(1) + 1);
+    ASSERT_EQ(cells.CellOf(1 + 0x1p-47L), cells.CellOf(1));
+    ASSERT_EQ(cells.CellOf(0.5L + 0x1p-47L), cells.CellOf(0.5L) + 1);
+    ASSERT_EQ(cells.CellOf(0.5L + 0x1p-48L), cells.CellOf(0.5L));
     std::mt19937_64 rng(12);
     for (const int parts : {1, 2, 3, 7}) {
         std::vector<Float> values;
