@@ -82,12 +82,13 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
     if (toScratch) std::copy(data, data + n, scratch);
 }
 
-// Sorts the keys of several pieces into `data` (room for all of them, and `scratch` as
-// much): the first digit scatters straight from the pieces, which are never copied
-// together first. It has up to 11 bits: the areas are large, and in huge pages a wide
-// scatter costs no extra address translations, while it saves a pass further down.
+// Scatters the keys of several pieces into `out` (room for all of them) by their digit of
+// up to maxBits bits below the highest bit in which they differ, about one bucket for
+// every 2^sizeShift keys, and returns the buckets' sizes in order: none for no keys, one
+// for keys that are all equal. The pieces are never copied together first.
 template <class K>
-void RadixSortPieces(const std::vector<std::span<const K>>& pieces, K* data, K* scratch) {
+std::vector<std::size_t> ScatterPieces(const std::vector<std::span<const K>>& pieces, K* out, int sizeShift,
+                                       int maxBits) {
     std::size_t n = 0;
     K any = 0, all = ~K(0);
     for (const auto& piece : pieces) {
@@ -97,12 +98,12 @@ void RadixSortPieces(const std::vector<std::span<const K>>& pieces, K* data, K* 
         }
         n += piece.size();
     }
-    if (n == 0) return;
+    if (n == 0) return {};
     if (any == all) {
-        std::fill_n(data, n, any);
-        return;
+        std::fill_n(out, n, any);
+        return {n};
     }
-    const int bits = std::clamp(int(std::bit_width(n >> 4)), 1, 11);
+    const int bits = std::clamp(int(std::bit_width(n >> sizeShift)), 1, maxBits);
     const int shift = std::max(HighestBit(any ^ all) + 1 - bits, 0);
     const std::size_t mask = (std::size_t(1) << bits) - 1;
     std::vector<std::size_t> count(mask + 1, 0), next(mask + 1);
@@ -114,54 +115,34 @@ void RadixSortPieces(const std::vector<std::span<const K>>& pieces, K* data, K* 
         sum += count[b];
     }
     for (const auto& piece : pieces)
-        for (const K k : piece) scratch[next[std::size_t(k >> shift) & mask]++] = k;
+        for (const K k : piece) out[next[std::size_t(k >> shift) & mask]++] = k;
+    return count;
+}
+
+// Sorts the keys of several pieces into `data` (room for all of them, and `scratch` as
+// much). The first digit has up to 11 bits: the areas are large, and in huge pages a wide
+// scatter costs no extra address translations, while it saves a pass further down.
+template <class K>
+void RadixSortPieces(const std::vector<std::span<const K>>& pieces, K* data, K* scratch) {
     std::size_t start = 0;
-    for (std::size_t b = 0; b <= mask; ++b) {
-        if (count[b] != 0) RadixSort(scratch + start, data + start, count[b], true);
-        start += count[b];
+    for (const std::size_t count : ScatterPieces(pieces, scratch, 4, 11)) {
+        if (count != 0) RadixSort(scratch + start, data + start, count, true);
+        start += count;
     }
 }
 
 // Hands the keys of several pieces to `visit(const K* keys, std::size_t n)` in ascending
 // order, a sorted bucket at a time. The first digit scatters them into `data` (room for
-// all of them) in buckets of about 2048 keys; each bucket is then sorted in a scratch area
-// that stays in the cache, by a digit wide enough to leave a key or two for insertion.
-// Only one area as large as the keys is needed, and it is written once.
+// all of them) in buckets of about 8192 keys; each bucket is then sorted in a scratch area
+// that stays in the cache, by a digit wide enough to leave a key or none a group for
+// insertion. Only one area as large as the keys is needed, and it is written once.
 template <class K, class Visit>
 void VisitSortedPieces(const std::vector<std::span<const K>>& pieces, K* data, Visit&& visit) {
-    std::size_t n = 0;
-    K any = 0, all = ~K(0);
-    for (const auto& piece : pieces) {
-        for (const K k : piece) {
-            any |= k;
-            all &= k;
-        }
-        n += piece.size();
-    }
-    if (n == 0) return;
-    if (any == all) {
-        std::fill_n(data, n, any);
-        return visit(static_cast<const K*>(data), n);
-    }
-    const int bits = std::clamp(int(std::bit_width(n >> 13)), 1, 10);
-    const int shift = std::max(HighestBit(any ^ all) + 1 - bits, 0);
-    const std::size_t mask = (std::size_t(1) << bits) - 1;
-    std::vector<std::size_t> count(mask + 1, 0), next(mask + 1);
-    for (const auto& piece : pieces)
-        for (const K k : piece) ++count[std::size_t(k >> shift) & mask];
-    std::size_t sum = 0;
-    for (std::size_t b = 0; b <= mask; ++b) {
-        next[b] = sum;
-        sum += count[b];
-    }
-    for (const auto& piece : pieces)
-        for (const K k : piece) data[next[std::size_t(k >> shift) & mask]++] = k;
     std::vector<K> scratch;
     std::vector<std::uint32_t> inner;
     std::size_t start = 0;
-    for (std::size_t b = 0; b <= mask; ++b) {
+    for (const std::size_t m : ScatterPieces(pieces, data, 13, 10)) {
         K* const keys = data + start;
-        const std::size_t m = count[b];
         start += m;
         if (m < 2) {
             if (m) visit(static_cast<const K*>(keys), m);
