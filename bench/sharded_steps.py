@@ -38,16 +38,19 @@ def main():
         show("Parquet read (page cache), float64", seconds)
     floats = values.astype(np.longdouble)
     show("conversion to long double (not done for float64)", best(lambda: values.astype(np.longdouble))[0])
-    show("summary and top-16-bit histogram (summary_and_tops)", best(lambda: _kornum.summary_and_tops(values))[0])
-    show("  the same on long doubles", best(lambda: _kornum.summary_and_tops(floats))[0])
+    show("summary and first histograms (summary_and_first_counts)",
+         best(lambda: _kornum.summary_and_first_counts(values))[0])
+    show("  the same on long doubles", best(lambda: _kornum.summary_and_first_counts(floats))[0])
     n = count
     selection = _kornum.RankSelection(n, _kornum.report_ranks(n), 1 << 18)
-    selection.narrow(_kornum.merge_counts([_kornum.summary_and_tops(values)[1]]))
+    first_counts = _kornum.summary_and_first_counts(values)[1]
+    selection.narrow_with(first_counts)  # the top histogram's round
+    requests = selection.requests()
+    show(f"prefix histogram, {len(requests)} requests (prefix_counts; answered by the first pass here)",
+         best(lambda: _kornum.prefix_counts(values, requests))[0])
     while not selection.gathering():
-        requests = selection.requests()
-        seconds, counts = best(lambda: _kornum.prefix_counts(values, requests))
-        show(f"prefix histogram, {len(requests)} requests (prefix_counts)", seconds)
-        selection.narrow(counts)
+        if not selection.narrow_with(first_counts):
+            selection.narrow(_kornum.prefix_counts(values, selection.requests()))
     prefixes = selection.gather_prefixes()
     show(f"gathering under {len(prefixes)} prefixes (collect_prefix)",
          best(lambda: _kornum.collect_prefix(values, prefixes))[0])

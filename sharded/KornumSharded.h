@@ -53,6 +53,23 @@ Float ValueOf(TKorKey K) noexcept;
 /// values, in ascending bucket order.
 using TKorHistogram = std::vector<std::pair<std::uint32_t, std::uint64_t>>;
 
+/// The selection's first histograms, counted in the summary's pass over a shard (see
+/// `TKorShardSummary::Add`): the top 16 key bits of every value (`PrefixCounts` for a
+/// request of 0 bits) and, under each top bucket that holds an eighth or more of the
+/// shard's first 4096 values, the next 16 bits. Merged over shards, a finer histogram
+/// whose total is its bucket's count in Top is complete: it stands for the pass that would
+/// count it (`TKorRankSelection::NarrowWith`).
+struct TKorFirstCounts {
+    TKorHistogram Top;  ///< By the top 16 key bits.
+    /// (top bucket, its values by the next 16 key bits), in ascending bucket order.
+    std::vector<std::pair<std::uint32_t, TKorHistogram>> Finer;
+    /// Adds the counts of another shard.
+    void Merge(const TKorFirstCounts& Other);
+    /// The histogram under a top bucket by the next 16 bits when every value under it was
+    /// counted, else null.
+    const TKorHistogram* CompleteFiner(std::uint32_t Bucket) const;
+};
+
 /// The exact moments of a merged summary, each rounded once to Float from the exact sums.
 struct TKorMoments {
     Float Sum = 0;       ///< The sum of the values.
@@ -88,14 +105,13 @@ public:
     /// Adds the values. NaN and infinities are counted apart; with any of them the
     /// moments follow IEEE arithmetic (see `Moments`).
     void Add(std::span<const Float> Values);
-    /// Adds the values, and adds their counts by the top 16 bits of their keys to
-    /// TopCounts (the histogram of `PrefixCounts` for a request of 0 bits), in the same
-    /// pass over them.
-    void Add(std::span<const Float> Values, TKorHistogram& TopCounts);
+    /// Adds the values, and adds their first histograms of the selection to Counts, in
+    /// the same pass over them.
+    void Add(std::span<const Float> Values, TKorFirstCounts& Counts);
     /// Each `Add` also takes doubles: the same as adding the Floats they convert to.
     void Add(std::span<const double> Values);
     /// @copydoc Add(std::span<const double>)
-    void Add(std::span<const double> Values, TKorHistogram& TopCounts);
+    void Add(std::span<const double> Values, TKorFirstCounts& Counts);
     /// Adds the values of Other.
     void Merge(const TKorShardSummary& Other);
 
@@ -126,7 +142,7 @@ public:
 private:
     struct Sums;
     template <class E>
-    void AddCounting(std::span<const E> Values, std::uint64_t* Tops);
+    void AddCounting(std::span<const E> Values, TKorFirstCounts* Counts);
     Int64 count_ = 0;
     Float minimum_ = 0, maximum_ = 0;
     Int64 nan_ = 0, plusInf_ = 0, minusInf_ = 0;
@@ -173,6 +189,10 @@ public:
     std::vector<TKorPrefixRequest> Requests() const;
     /// Narrows every open rank to the bucket of the merged Counts (for `Requests`).
     void Narrow(const std::vector<TKorHistogram>& Counts);
+    /// Narrows with the first histograms where they answer `Requests` (the top histogram
+    /// the first round, complete finer ones the second): true when they did, and the
+    /// round's pass over the shards is saved; false, and nothing changed, otherwise.
+    bool NarrowWith(const TKorFirstCounts& Counts);
     /// The prefixes whose values to gather in the next round.
     std::vector<TKorPrefixRequest> GatherPrefixes() const;
     /// Takes the values gathered for `GatherPrefixes`, one list each, and finds the ranks.

@@ -239,6 +239,22 @@ void TKorRankSelection::Narrow(const std::vector<TKorHistogram>& Counts) {
     }
 }
 
+bool TKorRankSelection::NarrowWith(const TKorFirstCounts& Counts) {
+    if (Done() || Gathering()) return false;
+    std::vector<TKorHistogram> answers;
+    for (const TKorPrefixRequest& r : Requests()) {
+        if (r.Bits == 0) {
+            answers.push_back(Counts.Top);
+            continue;
+        }
+        const TKorHistogram* finer = r.Bits == 16 ? Counts.CompleteFiner(r.Prefix.High) : nullptr;
+        if (!finer) return false;
+        answers.push_back(*finer);
+    }
+    Narrow(answers);
+    return true;
+}
+
 std::vector<TKorPrefixRequest> TKorRankSelection::GatherPrefixes() const {
     return Distinct(open_, [](const Open& o) { return !o.Found; });
 }

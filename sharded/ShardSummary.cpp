@@ -2,6 +2,7 @@
 
 #include "sharded/detail/Bytes.hpp"
 #include "sharded/detail/ExactNumber.hpp"
+#include "sharded/detail/FirstCounter.hpp"
 #include "sharded/detail/StoredValue.hpp"
 
 #include <kornum/Kornummath.h>
@@ -11,6 +12,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <optional>
 #include <unordered_map>
 #include <x86intrin.h>
 
@@ -107,17 +109,17 @@ struct TKorShardSummary::Sums {
         return words;
     }
     // Adds the finite values, counts the NaN and infinities, and widens [minKey, maxKey]
-    // to the keys of the values that are not NaN; with tops, counts every value by the top
-    // 16 bits of its key there (2^16 counters).
+    // to the keys of the values that are not NaN; with a counter, counts every value's key
+    // there.
     template <class E>
     void AddBatch(std::span<const E> values, Int64& nan, Int64& plusInf, Int64& minusInf, u128& minKey,
-                  u128& maxKey, std::uint64_t* tops) {
+                  u128& maxKey, detail::FirstCounter* counter) {
         std::vector<Bin> bins;
         std::vector<std::uint32_t> binOf(std::size_t(1) << 16, 0);  // by sign and exponent; 0: none yet
         for (const E& x : values) {
             const Stored s = StoredOf(x);
             const u128 key = detail::WideKeyOf(s);
-            if (tops) ++tops[std::size_t(key >> 64)];
+            if (counter) counter->Count(key);
             if ((s.top & 0x7fff) == 0x7fff) {
                 if (s.significand << 1) {
                     ++nan;
@@ -218,35 +220,18 @@ TKorShardSummary& TKorShardSummary::operator=(TKorShardSummary&& o) noexcept {
 void TKorShardSummary::Add(std::span<const Float> Values) { AddCounting(Values, nullptr); }
 void TKorShardSummary::Add(std::span<const double> Values) { AddCounting(Values, nullptr); }
 
-namespace {
-
-// Adds the values to Summary through Add, and their counts by the top 16 key bits to
-// TopCounts.
-template <class E, class Add>
-void AddCountingTops(std::span<const E> values, TKorHistogram& topCounts, Add add) {
-    std::vector<std::uint64_t> tops(std::size_t(1) << 16, 0);
-    for (const auto& [bucket, count] : topCounts) tops[bucket] += count;
-    add(tops.data());
-    topCounts.clear();
-    for (std::uint32_t b = 0; b < tops.size(); ++b)
-        if (tops[b]) topCounts.push_back({b, tops[b]});
-}
-
-}  // namespace
-
-void TKorShardSummary::Add(std::span<const Float> Values, TKorHistogram& TopCounts) {
-    AddCountingTops(Values, TopCounts, [&](std::uint64_t* tops) { AddCounting(Values, tops); });
-}
-void TKorShardSummary::Add(std::span<const double> Values, TKorHistogram& TopCounts) {
-    AddCountingTops(Values, TopCounts, [&](std::uint64_t* tops) { AddCounting(Values, tops); });
-}
+void TKorShardSummary::Add(std::span<const Float> Values, TKorFirstCounts& Counts) { AddCounting(Values, &Counts); }
+void TKorShardSummary::Add(std::span<const double> Values, TKorFirstCounts& Counts) { AddCounting(Values, &Counts); }
 
 template <class E>
-void TKorShardSummary::AddCounting(std::span<const E> Values, std::uint64_t* Tops) {
+void TKorShardSummary::AddCounting(std::span<const E> Values, TKorFirstCounts* Counts) {
+    std::optional<detail::FirstCounter> counter;
+    if (Counts) counter.emplace(Values);
     const bool any = count_ > nan_;
     u128 minKey = any ? detail::WideKeyOf(StoredOf(minimum_)) : ~u128(0);
     u128 maxKey = any ? detail::WideKeyOf(StoredOf(maximum_)) : 0;
-    sums_->AddBatch(Values, nan_, plusInf_, minusInf_, minKey, maxKey, Tops);
+    sums_->AddBatch(Values, nan_, plusInf_, minusInf_, minKey, maxKey, counter ? &*counter : nullptr);
+    if (counter) counter->AddTo(*Counts);
     count_ += Int64(Values.size());
     if (count_ > nan_) {
         minimum_ = ValueOfKey(minKey);

@@ -193,7 +193,7 @@ def _mode_tasks(chunks: List[Any], parts: int) -> List[Any]:
     return [dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks]), busy]
 
 
-def _mode(started: _Started, chunks: List[Any], tops: List[Any], n: int, parts: int, progress: bool) -> Any:
+def _mode(started: _Started, chunks: List[Any], top: List[Any], n: int, parts: int, progress: bool) -> Any:
     """Whether the values have a mode, and the mode: the runs of equal neighbours of each
     range of keys, from the values of the cells the filter found busy (from all values
     when the tolerance is too coarse for cells)."""
@@ -206,13 +206,13 @@ def _mode(started: _Started, chunks: List[Any], tops: List[Any], n: int, parts: 
             return result
         candidates = [dask.delayed(_kornum.mode_candidates)(c, busy_cells) for c in chunks]
     # Ranges of keys of about equal counts; a top bucket too large for one is counted finer.
-    heavy = [(bucket, 0, 16) for bucket, count in tops[0] if count * parts > n]
+    heavy = [(bucket, 0, 16) for bucket, count in top if count * parts > n]
     finer: List[Any] = []
     if heavy:
         counts, = _compute(progress, dask.delayed(_kornum.merge_counts)(
             [dask.delayed(_kornum.prefix_counts)(c, heavy) for c in chunks]))
         finer = [(request[0], count) for request, count in zip(heavy, counts)]
-    bounds = _kornum.range_bounds(tops[0], finer, parts)
+    bounds = _kornum.range_bounds(top, finer, parts)
     splits = [dask.delayed(_kornum.split_by_range, nout=len(bounds) + 1)(c, bounds) for c in candidates]
     runs = [dask.delayed(_kornum.run_summary)(dask.delayed(_concatenate)([s[i] for s in splits]))
             for i in range(len(bounds) + 1)]
@@ -243,32 +243,32 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
                    allow_nonfinite=bool(allow_nonfinite))
     chunks = _persisted(_chunks(data, column, reading))
 
-    # Pass 1: the exact summaries and the counts of the top 16 key bits; the mode's filter
+    # Pass 1: the exact summaries and the selection's first histograms; the mode's filter
     # starts beside it and runs on the cluster while the selection's passes go on.
     parts = _part_count(chunks)
-    firsts = [dask.delayed(_kornum.summary_and_tops, nout=2)(c) for c in chunks]
+    firsts = [dask.delayed(_kornum.summary_and_first_counts, nout=2)(c) for c in chunks]
     started = _Started([dask.delayed(_kornum.merge_summaries)([first[0] for first in firsts]),
-                        dask.delayed(_kornum.merge_counts)([first[1] for first in firsts])],
+                        dask.delayed(_kornum.merge_first_counts)([first[1] for first in firsts])],
                        background=_mode_tasks(chunks, parts) if mode else [])
-    summary, tops = started.results(progress, [0, 1])
+    summary, first_counts = started.results(progress, [0, 1])
     n = _kornum.summary_count(summary)
     if n == 0:
         return Description(_kornum.describe([], population=bool(population)), bool(population))
 
     selection = _kornum.RankSelection(n, _kornum.report_ranks(n), GATHER_LIMIT)
     while not selection.done():
+        if selection.narrow_with(first_counts):
+            continue  # the first pass counted these already
         if selection.gathering():
             prefixes = selection.gather_prefixes()
             lists = _compute(progress, *[dask.delayed(_kornum.collect_prefix)(c, prefixes) for c in chunks])
             selection.gathered(_gathered(list(lists), len(prefixes)))
-        elif selection.requests() == [(0, 0, 0)]:
-            selection.narrow(tops)  # the first pass counted these already
         else:
             counts, = _compute(progress, dask.delayed(_kornum.merge_counts)(
                 [dask.delayed(_kornum.prefix_counts)(c, selection.requests()) for c in chunks]))
             selection.narrow(counts)
 
-    mode_exists, mode_value = _mode(started, chunks, tops, n, parts, progress) if mode else (False, 0.0)
+    mode_exists, mode_value = _mode(started, chunks, first_counts[0], n, parts, progress) if mode else (False, 0.0)
     result = _kornum.ShardedSummary(summary, bool(population), selection.values(), mode_exists, mode_value)
     description = Description(result, bool(population))
     if not mode:

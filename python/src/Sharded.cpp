@@ -84,15 +84,20 @@ py::bytes Summarize(py::handle values) {
     }));
 }
 
-// The summary of a shard and the histogram of its top 16 key bits, from one pass.
-py::tuple SummarizeCountingTops(py::handle values) {
-    std::vector<TKorHistogram> tops(1);
+// The first histograms of the selection cross as (top, [(bucket, finer), ...]).
+using FirstCountsTuple = std::pair<TKorHistogram, std::vector<std::pair<std::uint32_t, TKorHistogram>>>;
+TKorFirstCounts FirstCounts(const FirstCountsTuple& tuple) { return {tuple.first, tuple.second}; }
+FirstCountsTuple Tuple(const TKorFirstCounts& counts) { return {counts.Top, counts.Finer}; }
+
+// The summary of a shard and its first histograms, from one pass.
+py::tuple SummarizeCounting(py::handle values) {
+    TKorFirstCounts counts;
     const std::string bytes = OverShard(values, [&](auto shard) {
         TKorShardSummary summary;
-        summary.Add(shard, tops[0]);
+        summary.Add(shard, counts);
         return summary.Serialize();
     });
-    return py::make_tuple(py::bytes(bytes), tops);
+    return py::make_tuple(py::bytes(bytes), Tuple(counts));
 }
 
 TKorShardSummary Merged(const std::vector<std::string>& parts) {
@@ -133,8 +138,13 @@ private:
 
 void BindSharded(py::module_& m) {
     m.def("shard_summary", &Summarize, py::arg("values"), "The exact summary of a shard, as bytes (internal).");
-    m.def("summary_and_tops", &SummarizeCountingTops, py::arg("values"),
-          "The exact summary of a shard as bytes, and its prefix counts for a request of 0 bits (internal).");
+    m.def("summary_and_first_counts", &SummarizeCounting, py::arg("values"),
+          "The exact summary of a shard as bytes, and the selection's first histograms (internal).");
+    m.def("merge_first_counts", [](const std::vector<FirstCountsTuple>& parts) {
+              TKorFirstCounts merged;
+              for (const auto& part : parts) merged.Merge(FirstCounts(part));
+              return Tuple(merged);
+          }, py::arg("parts"), "The merged first histograms of the selection (internal).");
     m.def("merge_summaries", [](const std::vector<std::string>& parts) { return py::bytes(Merged(parts).Serialize()); },
           py::arg("parts"), "The merged summary of summaries, as bytes (internal).");
     m.def("read_numbers", [](const std::string& path, int field, const std::string& delimiter, bool header,
@@ -232,6 +242,8 @@ void BindSharded(py::module_& m) {
         .def("gathering", &TKorRankSelection::Gathering)
         .def("requests", [](const TKorRankSelection& s) { return Tuples(s.Requests()); })
         .def("narrow", &TKorRankSelection::Narrow, py::arg("counts"))
+        .def("narrow_with", [](TKorRankSelection& s, const FirstCountsTuple& first) { return s.NarrowWith(FirstCounts(first)); },
+             py::arg("first_counts"))
         .def("gather_prefixes", [](const TKorRankSelection& s) { return Tuples(s.GatherPrefixes()); })
         .def("gathered", [](TKorRankSelection& s, const std::vector<FloatArray>& lists) {
                  std::vector<std::vector<Float>> values;

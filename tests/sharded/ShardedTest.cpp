@@ -35,14 +35,18 @@ std::vector<std::vector<Float>> RandomShards(const std::vector<Float>& values, i
 std::vector<KornumDescStats::TKorReportEntry> ShardedReport(const std::vector<std::vector<Float>>& shards,
                                                             bool population, Int64 gatherLimit) {
     TKorShardSummary summary;
+    TKorFirstCounts first;
     for (const auto& shard : shards) {
         TKorShardSummary part;
-        part.Add(shard);
+        TKorFirstCounts counts;
+        part.Add(shard, counts);
         summary = TKorShardSummary::Deserialize(summary.Serialize());
         summary.Merge(part);
+        first.Merge(counts);
     }
     TKorRankSelection selection(summary.Count(), ReportRanks(summary.Count()), gatherLimit);
     while (!selection.Done()) {
+        if (selection.NarrowWith(first)) continue;
         if (selection.Gathering()) {
             const std::vector<TKorPrefixRequest> prefixes = selection.GatherPrefixes();
             std::vector<std::vector<Float>> gathered(prefixes.size());
@@ -425,11 +429,12 @@ TEST(ShardedDoubles, EveryPassGivesWhatTheConvertedFloatsGive) {
     const std::vector<Float> floats(doubles.begin(), doubles.end());
 
     TKorShardSummary fromDoubles, fromFloats;
-    TKorHistogram doubleTops, floatTops;
-    fromDoubles.Add(doubles, doubleTops);
-    fromFloats.Add(floats, floatTops);
+    TKorFirstCounts doubleCounts, floatCounts;
+    fromDoubles.Add(doubles, doubleCounts);
+    fromFloats.Add(floats, floatCounts);
     EXPECT_EQ(fromDoubles.Serialize(), fromFloats.Serialize());
-    EXPECT_EQ(doubleTops, floatTops);
+    EXPECT_EQ(doubleCounts.Top, floatCounts.Top);
+    EXPECT_EQ(doubleCounts.Finer, floatCounts.Finer);
 
     std::vector<TKorPrefixRequest> requests = {{}, {KeyOf(3), 16}, {KeyOf(-1), 32}};
     EXPECT_EQ(PrefixCounts(doubles, requests), PrefixCounts(floats, requests));
@@ -445,4 +450,46 @@ TEST(ShardedDoubles, EveryPassGivesWhatTheConvertedFloatsGive) {
     for (const double x : doubles) busy.push_back(cells.CellOf(Float(x)));
     busy.resize(busy.size() / 2);
     EXPECT_TRUE(SameBits(cells.Candidates(doubles, busy), cells.Candidates(floats, busy)));
+}
+
+// The first histograms stand for the passes they answer only when complete. 14 000 values
+// in [1, 2) and 16 000 in [2, 4), in two shards: shuffled, each shard counts both top
+// buckets finer and the first two rounds are answered; sorted, the first shard's first
+// values are all below 2, so it counts only [1, 2) finer, and the median's round needs its
+// pass. Either way the ranks are those of the whole sorted.
+TEST(FirstCounts, AnswerTheRoundsTheyCoverCompletely) {
+    std::mt19937_64 rng(31);
+    std::uniform_real_distribution<double> unit(0, 1);
+    std::vector<Float> values;
+    for (int i = 0; i < 30000; ++i) values.push_back(Float((i < 14000 ? 1 : 2) * (1 + unit(rng))));
+    std::vector<Float> sorted = values;
+    std::sort(sorted.begin(), sorted.end());
+    std::shuffle(values.begin(), values.end(), rng);
+    const std::vector<Int64> ranks = ReportRanks(Int64(values.size()));
+    for (const bool separate : {false, true}) {
+        const std::vector<Float>& source = separate ? sorted : values;
+        TKorFirstCounts first;
+        for (std::size_t s = 0; s < 2; ++s) {
+            const std::span<const Float> shard = std::span<const Float>(source).subspan(s * 15000, 15000);
+            TKorShardSummary summary;
+            TKorFirstCounts counts;
+            summary.Add(shard, counts);
+            first.Merge(counts);
+            EXPECT_EQ(counts.Top, PrefixCounts(shard, {TKorPrefixRequest{}})[0]);
+        }
+        TKorRankSelection selection(Int64(values.size()), ranks, 1000);
+        EXPECT_TRUE(selection.NarrowWith(first));
+        EXPECT_EQ(selection.NarrowWith(first), !separate);
+        while (!selection.Done()) {
+            if (selection.Gathering()) {
+                std::vector<std::vector<Float>> gathered = CollectPrefixes(values, selection.GatherPrefixes());
+                selection.Gathered(gathered);
+            } else {
+                selection.Narrow(PrefixCounts(values, selection.Requests()));
+            }
+        }
+        std::vector<Float> expected;
+        for (const Int64 r : ranks) expected.push_back(sorted[std::size_t(r)]);
+        EXPECT_EQ(selection.Values(), expected);
+    }
 }
