@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <stdexcept>
 
 namespace KornumSharded {
 
@@ -261,13 +262,18 @@ std::vector<TKorPrefixRequest> TKorRankSelection::GatherPrefixes() const {
 
 void TKorRankSelection::Gathered(std::vector<std::vector<Float>> Values) {
     const std::vector<TKorPrefixRequest> prefixes = GatherPrefixes();
-    for (auto& list : Values) std::sort(list.begin(), list.end(), [](Float a, Float b) { return KeyOf(a) < KeyOf(b); });
     for (Open& o : open_) {
         if (o.Found) continue;
         const std::size_t i = std::size_t(std::find_if(prefixes.begin(), prefixes.end(), [&](const TKorPrefixRequest& r) {
                                               return r.Bits == o.At.Bits && r.Prefix == o.At.Prefix;
                                           }) - prefixes.begin());
-        o.Value = Values.at(i).at(std::size_t(o.Rank));
+        // Selection in the list, in key order: each rank on its own, whatever the order
+        // the others left the list in.
+        std::vector<Float>& list = Values.at(i);
+        if (o.Rank < 0 || std::size_t(o.Rank) >= list.size()) throw std::out_of_range("gathered values too few for a rank");
+        std::nth_element(list.begin(), list.begin() + o.Rank, list.end(),
+                         [](const Float& a, const Float& b) { return KeyOf(a) < KeyOf(b); });
+        o.Value = list[std::size_t(o.Rank)];
         o.Found = true;
     }
 }

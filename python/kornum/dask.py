@@ -193,15 +193,15 @@ def _mode_tasks(chunks: List[Any], parts: int) -> List[Any]:
     return [dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks]), busy]
 
 
-def _mode(started: _Started, chunks: List[Any], top: List[Any], n: int, parts: int, progress: bool) -> Any:
+def _mode(started: Any, chunks: List[Any], top: List[Any], n: int, parts: int, progress: bool) -> Any:
     """Whether the values have a mode, and the mode: the runs of equal neighbours of each
     range of keys, from the values of the cells the filter found busy (from all values
     when the tolerance is too coarse for cells)."""
     import dask
 
     candidates = chunks
-    if len(started.tasks) > 2 and n > 1:  # a single value is its own mode, though it has no company
-        result, (busy_cells, _) = started.results(progress, [2, 3])
+    if started.tasks and n > 1:  # a single value is its own mode, though it has no company
+        result, (busy_cells, _) = started.results(progress, [0, 1])
         if result is not None:
             return result
         candidates = [dask.delayed(_kornum.mode_candidates)(c, busy_cells) for c in chunks]
@@ -248,8 +248,9 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
     parts = _part_count(chunks)
     firsts = [dask.delayed(_kornum.summary_and_first_counts, nout=2)(c) for c in chunks]
     started = _Started([dask.delayed(_kornum.merge_summaries)([first[0] for first in firsts]),
-                        dask.delayed(_kornum.merge_first_counts)([first[1] for first in firsts])],
-                       background=_mode_tasks(chunks, parts) if mode else [])
+                        dask.delayed(_kornum.merge_first_counts)([first[1] for first in firsts])])
+    # The mode's graph is built while the cluster runs the first pass.
+    mode_started = _Started([], background=_mode_tasks(chunks, parts)) if mode else None
     summary, first_counts = started.results(progress, [0, 1])
     n = _kornum.summary_count(summary)
     if n == 0:
@@ -268,7 +269,7 @@ def describe(data: Any, *, population: bool = False, mode: bool = True, column: 
                 [dask.delayed(_kornum.prefix_counts)(c, selection.requests()) for c in chunks]))
             selection.narrow(counts)
 
-    mode_exists, mode_value = _mode(started, chunks, first_counts[0], n, parts, progress) if mode else (False, 0.0)
+    mode_exists, mode_value = _mode(mode_started, chunks, first_counts[0], n, parts, progress) if mode else (False, 0.0)
     result = _kornum.ShardedSummary(summary, bool(population), selection.values(), mode_exists, mode_value)
     description = Description(result, bool(population))
     if not mode:
