@@ -5,11 +5,15 @@
 ///
 /// A report over shards takes three kinds of pass over the data:
 /// - `TKorShardSummary` (one pass): the exact count, extremes and sums of x, x^2, x^3 and
-///   x^4 of a shard. Summaries merge in any order into identical bytes.
-/// - `TKorRankSelection` (two or three passes): the values at given ranks (median,
+///   x^4 of a shard. Summaries merge in any order into identical bytes. The same pass
+///   counts the selection's first histograms (`TKorFirstCounts`).
+/// - `TKorRankSelection` (one to three passes): the values at given ranks (median,
 ///   quartiles), found by counting the prefixes of an order-preserving key of each value
 ///   (`PrefixCounts`) and narrowing to the buckets that hold the ranks, until the few
 ///   candidates left are gathered (`CollectPrefixes`).
+///
+/// Every pass takes a shard's values as Floats or as doubles (read as the Floats they
+/// convert to).
 /// - `TKorModeCells` (two passes, moves 8 bytes a value): the values that can be in a run
 ///   of equal neighbours, found by counting cells of the number line without moving the
 ///   values themselves.

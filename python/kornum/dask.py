@@ -3,8 +3,9 @@
 :func:`describe` gives the same :class:`kornum.Description` as :func:`kornum.describe`
 would for all the values at once, and the same bits whatever the number of chunks, their
 order or the workers that ran them: each chunk is summarised exactly (count, extremes and
-exact sums of the first four powers), the order statistics are selected by counting key
-prefixes over the chunks (two or three passes, no sort of the whole), and only the mode
+exact sums of the first four powers, in a pass that also counts the first key
+histograms), the order statistics are selected by counting key prefixes over the chunks
+(one to three more passes, no sort of the whole), and only the mode
 moves data: the cells of a fine cut of the number line are dealt to parts by a hash of
 their block and counted, each part in one task, beside the other passes, and only the
 values of the busy cells, which can be in a run of equal neighbours, move on to the runs.
