@@ -1,5 +1,6 @@
 #include <kornum/KornumSharded.h>
 
+#include "sharded/detail/Histogram.hpp"
 #include "sharded/detail/StoredValue.hpp"
 
 #include <algorithm>
@@ -90,18 +91,7 @@ std::vector<TKorHistogram> PrefixCounts(std::span<const double> Values, const st
 
 void MergeCounts(std::vector<TKorHistogram>& Into, const std::vector<TKorHistogram>& From) {
     if (Into.empty()) Into.resize(From.size());
-    for (std::size_t i = 0; i < From.size(); ++i) {
-        TKorHistogram merged;
-        std::merge(Into[i].begin(), Into[i].end(), From[i].begin(), From[i].end(), std::back_inserter(merged));
-        TKorHistogram summed;
-        for (const auto& [bucket, count] : merged) {
-            if (!summed.empty() && summed.back().first == bucket)
-                summed.back().second += count;
-            else
-                summed.push_back({bucket, count});
-        }
-        Into[i] = std::move(summed);
-    }
+    for (std::size_t i = 0; i < From.size(); ++i) detail::AddHistogram(Into[i], From[i]);
 }
 
 namespace {

@@ -7,13 +7,10 @@
 
 #include <kornum/Kornummath.h>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
-#include <cstring>
 #include <limits>
 #include <optional>
-#include <unordered_map>
+#include <utility>
 #include <x86intrin.h>
 
 namespace KornumSharded {
@@ -42,7 +39,6 @@ std::int64_t UnitExponent(std::uint16_t top) {
     const std::int64_t biased = top & 0x7fff;
     return biased == 0 ? MinExponent : biased - 16383 - 63;
 }
-Float ValueOfKey(u128 key) { return ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}); }
 
 }  // namespace
 
@@ -102,12 +98,6 @@ struct TKorShardSummary::Sums {
         AddWords<3>(bin.S3, cube);
         AddWords<4>(bin.S4, fourth);
     }
-    template <std::size_t N>
-    static std::array<std::uint64_t, N> Words(const Word (&sum)[N]) {
-        std::array<std::uint64_t, N> words;
-        std::copy(sum, sum + N, words.begin());
-        return words;
-    }
     // Adds the finite values, counts the NaN and infinities, and widens [minKey, maxKey]
     // to the keys of the values that are not NaN; with a counter, counts every value's key
     // there.
@@ -138,15 +128,15 @@ struct TKorShardSummary::Sums {
             AddToBin(bins[at - 1], Word(s.significand));
         }
         for (const Bin& bin : bins) {
-            AddPower(1, bin.Top, Words(bin.S1));
-            AddPower(2, bin.Top, Words(bin.S2));
-            AddPower(3, bin.Top, Words(bin.S3));
-            AddPower(4, bin.Top, Words(bin.S4));
+            AddPower(1, bin.Top, bin.S1);
+            AddPower(2, bin.Top, bin.S2);
+            AddPower(3, bin.Top, bin.S3);
+            AddPower(4, bin.Top, bin.S4);
         }
         Normalize();
     }
     template <std::size_t Count>
-    void AddPower(int k, std::uint16_t top, const std::array<std::uint64_t, Count>& words) {
+    void AddPower(int k, std::uint16_t top, const Word (&words)[Count]) {
         const bool negative = (top & 0x8000) && (k % 2 == 1);
         std::vector<u128>& limbs = negative ? Negative[k - 1] : Positive[k - 1];
         // Each 64-bit word is added as a 128-bit shifted value, so it spans two limbs at
@@ -234,8 +224,8 @@ void TKorShardSummary::AddCounting(std::span<const E> Values, TKorFirstCounts* C
     if (counter) counter->AddTo(*Counts);
     count_ += Int64(Values.size());
     if (count_ > nan_) {
-        minimum_ = ValueOfKey(minKey);
-        maximum_ = ValueOfKey(maxKey);
+        minimum_ = detail::ValueOfWideKey(minKey);
+        maximum_ = detail::ValueOfWideKey(maxKey);
     }
 }
 

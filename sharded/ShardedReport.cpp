@@ -27,12 +27,12 @@ template <class Visit>
 void ForEachAscending(std::span<const Float> values, Visit visit) {
     using Kornumglobals::detail::RadixSort;
     using u128 = Kornumglobals::detail::UInt128;
-    const auto wide = [](const TKorKey& k) { return u128(k.High) << 64 | k.Low; };
-    const auto value = [](u128 key) { return ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}); };
+    const auto wide = [](const Float& x) { return detail::WideKeyOf(detail::StoredOf(x)); };
+    const auto value = detail::ValueOfWideKey;
     const std::size_t n = values.size();
     u128 any = 0, all = ~u128(0);
     for (const Float& x : values) {
-        const u128 key = wide(detail::KeyOf(detail::StoredOf(x)));
+        const u128 key = wide(x);
         any |= key;
         all &= key;
     }
@@ -45,7 +45,7 @@ void ForEachAscending(std::span<const Float> values, Visit visit) {
     const int lowest = low ? __builtin_ctzll(low) : 64 + __builtin_ctzll(std::uint64_t(varying >> 64));
     if (Kornumglobals::detail::HighestBit(varying) - lowest < 64) {
         std::vector<std::uint64_t> window(n), spare(n);
-        for (std::size_t i = 0; i < n; ++i) window[i] = std::uint64_t(wide(detail::KeyOf(detail::StoredOf(values[i]))) >> lowest);
+        for (std::size_t i = 0; i < n; ++i) window[i] = std::uint64_t(wide(values[i]) >> lowest);
         RadixSort(window.data(), spare.data(), n, false);
         // The bits outside the window are the same in every key.
         const u128 shared = all & ~(u128(~std::uint64_t(0)) << lowest);
@@ -53,7 +53,7 @@ void ForEachAscending(std::span<const Float> values, Visit visit) {
         return;
     }
     std::vector<u128> keys(n), spare(n);
-    for (std::size_t i = 0; i < n; ++i) keys[i] = wide(detail::KeyOf(detail::StoredOf(values[i])));
+    for (std::size_t i = 0; i < n; ++i) keys[i] = wide(values[i]);
     RadixSort(keys.data(), spare.data(), n, false);
     for (const u128 key : keys) visit(value(key));
 }

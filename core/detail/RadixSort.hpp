@@ -83,12 +83,11 @@ void RadixSort(K* data, K* scratch, std::size_t n, bool toScratch) {
 }
 
 // Scatters the keys of several pieces into `out` (room for all of them) by their digit of
-// up to maxBits bits below the highest bit in which they differ, about one bucket for
-// every 2^sizeShift keys, and returns the buckets' sizes in order: none for no keys, one
-// for keys that are all equal. The pieces are never copied together first.
+// up to 10 bits below the highest bit in which they differ, about one bucket for every
+// 8192 keys, and returns the buckets' sizes in order: none for no keys, one for keys that
+// are all equal. The pieces are never copied together first.
 template <class K>
-std::vector<std::size_t> ScatterPieces(const std::vector<std::span<const K>>& pieces, K* out, int sizeShift,
-                                       int maxBits) {
+std::vector<std::size_t> ScatterPieces(const std::vector<std::span<const K>>& pieces, K* out) {
     std::size_t n = 0;
     K any = 0, all = ~K(0);
     for (const auto& piece : pieces) {
@@ -103,7 +102,7 @@ std::vector<std::size_t> ScatterPieces(const std::vector<std::span<const K>>& pi
         std::fill_n(out, n, any);
         return {n};
     }
-    const int bits = std::clamp(int(std::bit_width(n >> sizeShift)), 1, maxBits);
+    const int bits = std::clamp(int(std::bit_width(n >> 13)), 1, 10);
     const int shift = std::max(HighestBit(any ^ all) + 1 - bits, 0);
     const std::size_t mask = (std::size_t(1) << bits) - 1;
     std::vector<std::size_t> count(mask + 1, 0), next(mask + 1);
@@ -119,18 +118,6 @@ std::vector<std::size_t> ScatterPieces(const std::vector<std::span<const K>>& pi
     return count;
 }
 
-// Sorts the keys of several pieces into `data` (room for all of them, and `scratch` as
-// much). The first digit has up to 11 bits: the areas are large, and in huge pages a wide
-// scatter costs no extra address translations, while it saves a pass further down.
-template <class K>
-void RadixSortPieces(const std::vector<std::span<const K>>& pieces, K* data, K* scratch) {
-    std::size_t start = 0;
-    for (const std::size_t count : ScatterPieces(pieces, scratch, 4, 11)) {
-        if (count != 0) RadixSort(scratch + start, data + start, count, true);
-        start += count;
-    }
-}
-
 // Hands the keys of several pieces to `visit(const K* keys, std::size_t n)` in ascending
 // order, a sorted bucket at a time. The first digit scatters them into `data` (room for
 // all of them) in buckets of about 8192 keys; each bucket is then sorted in a scratch area
@@ -141,7 +128,7 @@ void VisitSortedPieces(const std::vector<std::span<const K>>& pieces, K* data, V
     std::vector<K> scratch;
     std::vector<std::uint32_t> inner;
     std::size_t start = 0;
-    for (const std::size_t m : ScatterPieces(pieces, data, 13, 10)) {
+    for (const std::size_t m : ScatterPieces(pieces, data)) {
         K* const keys = data + start;
         start += m;
         if (m < 2) {

@@ -100,8 +100,9 @@ class _Started:
 
     def __init__(self, tasks: List[Any], background: Sequence[Any] = ()) -> None:
         self.client = _client()
-        self.tasks = list(tasks) + list(background)
-        if self.client is not None:
+        if self.client is None:
+            self.tasks = list(tasks) + list(background)
+        else:
             # The background tasks run when the cluster has nothing more urgent to do.
             self.tasks = (self.client.compute(list(tasks), priority=1) +
                           (self.client.compute(list(background), priority=0) if background else []))
@@ -194,7 +195,7 @@ def _mode_tasks(chunks: List[Any], parts: int) -> List[Any]:
     return [dask.delayed(_runs_of_few)([dask.delayed(_few_candidates)(c, busy) for c in chunks]), busy]
 
 
-def _mode(started: Any, chunks: List[Any], top: List[Any], n: int, parts: int, progress: bool) -> Any:
+def _mode(started: _Started, chunks: List[Any], top: List[Any], n: int, parts: int, progress: bool) -> Any:
     """Whether the values have a mode, and the mode: the runs of equal neighbours of each
     range of keys, from the values of the cells the filter found busy (from all values
     when the tolerance is too coarse for cells)."""

@@ -65,6 +65,9 @@ struct Stored {
     return UInt128(high) << 64 | (s.significand ^ negative);
 }
 
+// The value whose key is the integer key.
+inline Float ValueOfWideKey(UInt128 key) noexcept { return ValueOf({std::uint16_t(key >> 64), std::uint64_t(key)}); }
+
 inline Float FloatOf(const Float& x) noexcept { return x; }
 inline Float FloatOf(const double& x) noexcept { return Float(x); }
 
